@@ -1,0 +1,9 @@
+var scenario = [
+    {
+        "condition": "click,",
+        "hint": qsTr("Welcome"),
+        "followWindow": "MainWindow",
+        "x": 100,
+        "y": 300
+    }
+];
