@@ -2,15 +2,18 @@
 
 #include "tutorial/vocabulary.h"
 
+#include <QObject>
 #include <QPoint>
 #include <QRect>
 #include <QString>
 
-// What the overlay's windows need of whoever shows them. The owner outlives
-// the windows' last event.
-class OverlayOwner {
+// What the overlay's windows need of whoever shows them. Windows may outlive
+// their owner by some events, so they hold it by a QPointer.
+class OverlayOwner : public QObject {
+    Q_OBJECT
+
 public:
-    virtual ~OverlayOwner() = default;
+    using QObject::QObject;
 
     // A tutorial is being shown: a balloon that went missing is made anew.
     virtual bool isRunning() const = 0;

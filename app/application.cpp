@@ -1,0 +1,53 @@
+#include "app/application.h"
+
+#include "tutorial/tutorialmanager.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
+
+namespace {
+
+// The manager closes its windows and forgets them; here they are released.
+void deleteWindows()
+{
+    QList<QPointer<QWidget>> windows;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->parent())
+            windows << window;
+    }
+    for (const QPointer<QWidget>& window : windows)
+        delete window;
+}
+
+} // namespace
+
+QByteArray platformToAskFor(const QByteArray& requested, const QByteArray& sessionType,
+    const QByteArray& waylandDisplay, const QByteArray& xDisplay)
+{
+    const bool wayland = sessionType == "wayland" || !waylandDisplay.isEmpty();
+    return requested.isEmpty() && wayland && !xDisplay.isEmpty() ? QByteArray("xcb") : QByteArray();
+}
+
+int runApplication(int argc, char** argv)
+{
+    const QByteArray platform = platformToAskFor(qgetenv("QT_QPA_PLATFORM"),
+        qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"), qgetenv("DISPLAY"));
+    if (!platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", platform);
+
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("TUTORIAL"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("0.1"));
+    QCoreApplication::setOrganizationName(QStringLiteral("SOLVANTA"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("solvanta.example"));
+    // The process lives as long as its manager, also when the last window that
+    // a user can close is closed.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    auto* manager = new TutorialManager(&application);
+    manager->init();
+    const int exitCode = QApplication::exec();
+    deleteWindows();
+    return exitCode;
+}

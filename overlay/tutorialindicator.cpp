@@ -1,0 +1,291 @@
+#include "overlay/tutorialindicator.h"
+
+#include "overlay/overlayowner.h"
+#include "overlay/tutorialtooltip.h"
+
+#include <QCloseEvent>
+#include <QPushButton>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+// The pictures are linked from a static library, whose resources are not
+// registered by themselves. The macro has to stand outside of any namespace.
+static void registerPictures()
+{
+    Q_INIT_RESOURCE(tutorial);
+}
+
+namespace {
+
+constexpr int kTickMs = 100;
+constexpr int kNoButtonOffset = 56; // px, from the yes button
+
+// In the order of the icon kinds.
+const char* const kIconFiles[Tutorial::IconKindCount] = {
+    "click", "double_click", "right_click", "eye", "wait", "keyboard"};
+
+QPixmap picture(const char* name)
+{
+    registerPictures();
+    return QPixmap(QStringLiteral(":/resource/png/%1.png").arg(QLatin1String(name)));
+}
+
+int saturatedSum(int a, int b)
+{
+    return static_cast<int>(std::clamp<qint64>(
+        qint64(a) + b, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+bool isActive(const QWidget* window)
+{
+    return window && window->isActiveWindow();
+}
+
+void setShown(QWidget* window, bool shown)
+{
+    if (window)
+        window->setVisible(shown);
+}
+
+} // namespace
+
+TutorialIndicator::TutorialIndicator(QWidget* parent, OverlayOwner* owner)
+    : QWidget(parent), mArrow(picture("arrow")), mOwner(owner)
+{
+    std::transform(std::begin(kIconFiles), std::end(kIconFiles), std::begin(mIcons), picture);
+    createTooltip();
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+    setWindowFlags(TutorialTooltip::kPaintedWindowFlags);
+    mTimerId = startTimer(kTickMs, Qt::CoarseTimer);
+    mElapsed.start();
+}
+
+bool TutorialIndicator::isAnyActive() const
+{
+    return isActiveWindow() || isActive(mNextButton) || isActive(mYesButton) || isActive(mNoButton);
+}
+
+bool TutorialIndicator::isButtonWindowActive() const
+{
+    if (mNextWanted)
+        return isActive(mNextButton);
+    return mYesNoWanted && (isActive(mYesButton) || isActive(mNoButton));
+}
+
+float TutorialIndicator::GetElapsed() const
+{
+    return static_cast<float>(mElapsed.elapsed());
+}
+
+void TutorialIndicator::init(bool showNext, bool showYesNo)
+{
+    mElapsed.restart();
+    mNextWanted = showNext;
+    setShown(mNextButton, showNext);
+    mYesNoWanted = showYesNo;
+    setShown(mYesButton, showYesNo);
+    setShown(mNoButton, showYesNo);
+}
+
+void TutorialIndicator::setHint(const QString& text)
+{
+    createTooltip();
+    mHint = text;
+    mTooltip->setText(text);
+    if (!text.isEmpty())
+        markHintChanged();
+}
+
+void TutorialIndicator::setIconKind(Tutorial::EnumIconKind kind)
+{
+    mIconKind = kind;
+}
+
+void TutorialIndicator::setTargetWindowOffset(
+    int x, int y, Tutorial::EnumWindowKind kind, bool hideArrow)
+{
+    createTooltip();
+    mTargetWindowKind = kind;
+    mTargetOffset = QPoint(x, y);
+    const bool nowhere = x == Tutorial::kNoCoordinate && y == Tutorial::kNoCoordinate;
+    mArrowVisible = !nowhere && !hideArrow;
+    if (!nowhere && kind == Tutorial::Window_MapEditTreeBox) {
+        const QPoint panel = mOwner->getXy(Tutorial::Window_MapEditLeftPanelItem);
+        mTargetOffset = QPoint(saturatedSum(x, panel.x()), saturatedSum(y, panel.y()));
+    }
+}
+
+void TutorialIndicator::moveInterpolating(int x, int y)
+{
+    mMotion.target = QPoint(x, y);
+}
+
+void TutorialIndicator::showButton()
+{
+    if (mNextWanted)
+        setShown(mNextButton, true);
+    if (mYesNoWanted) {
+        setShown(mYesButton, true);
+        setShown(mNoButton, true);
+    }
+}
+
+void TutorialIndicator::hideButton()
+{
+    setShown(mNextButton, false);
+    setShown(mYesButton, false);
+    setShown(mNoButton, false);
+}
+
+void TutorialIndicator::showTooltip()
+{
+    setShown(mTooltip, true);
+}
+
+void TutorialIndicator::hideTooltip()
+{
+    setShown(mTooltip, false);
+}
+
+void TutorialIndicator::createTooltip()
+{
+    if (mTooltip)
+        return;
+    mTooltip = new TutorialTooltip(this);
+    // A balloon that is made again brings buttons of its own.
+    connect(mNextButton, &QAbstractButton::clicked, this, &TutorialIndicator::nextClicked);
+    connect(mYesButton, &QAbstractButton::clicked, this, &TutorialIndicator::yesClicked);
+    connect(mNoButton, &QAbstractButton::clicked, this, &TutorialIndicator::noClicked);
+}
+
+QPixmap TutorialIndicator::icon() const
+{
+    const bool known = mIconKind >= 0 && mIconKind < Tutorial::IconKindCount;
+    return known ? mIcons[mIconKind] : QPixmap();
+}
+
+void TutorialIndicator::handleActivationChange(QWidget* window)
+{
+    if (!mOwner)
+        return;
+    if (window->isActiveWindow())
+        mOwner->reorderWindow();
+    else
+        window->activateWindow();
+    mOwner->updateVisibility();
+}
+
+void TutorialIndicator::setButtons(QPushButton* next, QPushButton* yes, QPushButton* no)
+{
+    mNextButton = next;
+    mYesButton = yes;
+    mNoButton = no;
+}
+
+void TutorialIndicator::markHintChanged()
+{
+    mHintChanged = true;
+}
+
+bool TutorialIndicator::takeFullRepaint()
+{
+    return std::exchange(mFullRepaint, false);
+}
+
+void TutorialIndicator::forgetTooltip()
+{
+    mTooltip = nullptr;
+}
+
+void TutorialIndicator::nextClicked()
+{
+    answer(QStringLiteral("next"));
+}
+
+void TutorialIndicator::yesClicked()
+{
+    answer(QStringLiteral("yes"));
+}
+
+void TutorialIndicator::noClicked()
+{
+    answer(QStringLiteral("no"));
+}
+
+void TutorialIndicator::timerEvent(QTimerEvent*)
+{
+    if (!mOwner)
+        return;
+    const bool wasLeft = mMotion.flippedHorizontally;
+    if (mMotion.updateSides(mArrow.width(), mOwner->hostRect().right())) {
+        mFullRepaint = true;
+        if (mTooltip && mMotion.flippedHorizontally != wasLeft)
+            mTooltip->placeText(mMotion.flippedHorizontally);
+    }
+    const QPoint position = mMotion.nextPosition(mArrow.width());
+
+    if (!mTooltip && mOwner->isRunning())
+        createTooltip();
+
+    // A new hint's height moves the buttons also when the balloon stays.
+    const bool hintChanged = std::exchange(mHintChanged, false);
+    if (hintChanged && mTooltip)
+        mHintHeight = mTooltip->fitText();
+    if (hintChanged || position != mMotion.current)
+        moveWindows(position);
+    mMotion.current = position;
+
+    if (!mTooltip)
+        return;
+    if (mFullRepaint)
+        mTooltip->repaint(rect());
+    else
+        mTooltip->repaint(
+            TutorialTooltip::animatedRect(mArrow.size(), mMotion.flippedHorizontally));
+}
+
+void TutorialIndicator::closeEvent(QCloseEvent*)
+{
+    if (mTimerId != 0)
+        killTimer(mTimerId);
+    mTimerId = 0;
+    for (QPushButton** button : {&mNextButton, &mYesButton, &mNoButton}) {
+        if (*button)
+            (*button)->close();
+        *button = nullptr;
+    }
+    if (mTooltip)
+        mTooltip->close();
+    mTooltip = nullptr;
+}
+
+void TutorialIndicator::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange)
+        handleActivationChange(this);
+}
+
+void TutorialIndicator::answer(const QString& message)
+{
+    if (mOwner)
+        mOwner->send(message);
+}
+
+void TutorialIndicator::moveWindows(const QPoint& position)
+{
+    if (mTooltip)
+        mTooltip->move(position);
+    const QPoint buttons =
+        position + QPoint(mArrow.width(), mHintHeight + TutorialTooltip::kTextTop);
+    if (mNextButton)
+        mNextButton->move(buttons);
+    if (mYesButton)
+        mYesButton->move(buttons);
+    if (mNoButton)
+        mNoButton->move(buttons + QPoint(kNoButtonOffset, 0));
+}

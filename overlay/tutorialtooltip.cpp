@@ -1,0 +1,159 @@
+#include "overlay/tutorialtooltip.h"
+
+#include "overlay/tutorialindicator.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QPainter>
+#include <QPushButton>
+#include <QTextDocument>
+#include <QTextEdit>
+
+namespace {
+
+constexpr QRect kGeometry(0, 0, 640, 480);
+constexpr int kMirroredArrowLeft = 256; // px
+constexpr int kIconSize = 56; // px
+constexpr int kBounceRoom = 16; // px, the way the arrow dips
+constexpr int kUpwardsShift = 6; // px, that an arrow pointing up is drawn higher
+constexpr QSize kButtonSize(64, 32);
+
+} // namespace
+
+TutorialTooltip::TutorialTooltip(QWidget* parent)
+    : QWidget(nullptr), mIndicator(qobject_cast<TutorialIndicator*>(parent)),
+      mText(new QTextEdit(this))
+{
+    const int height = mIndicator->hintHeight();
+    mText->setMinimumSize(kTextWidth, height);
+    mText->setMaximumSize(kTextWidth, height);
+    mText->setGeometry(mIndicator->arrow().width(), kTextTop, kTextWidth, height);
+    mText->setLineWrapMode(QTextEdit::WidgetWidth);
+    mText->setAutoFormatting(QTextEdit::AutoAll);
+    mText->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    mText->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    mText->setSizePolicy(QSizePolicy());
+    mText->setWindowFlags(Qt::WindowTransparentForInput);
+    setText(mIndicator->hint());
+    if (!mIndicator->hint().isEmpty())
+        mIndicator->markHintChanged();
+
+    createButtons();
+
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+    setWindowFlags(kPaintedWindowFlags);
+    setGeometry(kGeometry);
+    show();
+}
+
+void TutorialTooltip::setText(const QString& text)
+{
+    if (!text.isEmpty())
+        mText->setText(text);
+    mText->setVisible(!text.isEmpty());
+}
+
+void TutorialTooltip::placeText(bool flippedHorizontally)
+{
+    mText->move(flippedHorizontally ? 0 : mIndicator->arrow().width(), kTextTop);
+}
+
+int TutorialTooltip::fitText()
+{
+    const int height = static_cast<int>(mText->document()->size().height());
+    mText->setFixedHeight(height);
+    return height;
+}
+
+QRect TutorialTooltip::animatedRect(const QSize& arrow, bool flippedHorizontally)
+{
+    return {flippedHorizontally ? kMirroredArrowLeft : 0, 0, arrow.width() + kIconSize,
+        arrow.height() + kBounceRoom + kIconSize};
+}
+
+void TutorialTooltip::paintEvent(QPaintEvent* event)
+{
+    if (!mIndicator)
+        return;
+    QPainter painter(this);
+    clear(&painter);
+    if (mIndicator->isArrowVisible())
+        drawArrow(&painter);
+    const QPixmap icon = mIndicator->icon();
+    if (!icon.isNull()) {
+        const bool flipped = mIndicator->motion().flippedHorizontally;
+        painter.drawPixmap(
+            flipped ? kMirroredArrowLeft - icon.width() : mIndicator->arrow().width(), 0, icon);
+    }
+    QWidget::paintEvent(event);
+}
+
+void TutorialTooltip::closeEvent(QCloseEvent*)
+{
+    delete mText;
+    mText = nullptr;
+    if (mIndicator)
+        mIndicator->forgetTooltip();
+}
+
+void TutorialTooltip::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && mIndicator)
+        mIndicator->handleActivationChange(this);
+}
+
+void TutorialTooltip::createButtons()
+{
+    const auto button = [this](const QString& text) {
+        auto* result = new QPushButton(text, this);
+        result->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+        result->setFixedSize(kButtonSize);
+        result->setAttribute(Qt::WA_TranslucentBackground);
+        result->setAttribute(Qt::WA_ShowWithoutActivating);
+        result->setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+        result->hide();
+        return result;
+    };
+    // "Yes" and "No" share the translations of the host's own question box.
+    const auto answer = [](const char* text) {
+        return QCoreApplication::translate("ObjYesNoBox", text);
+    };
+    QPushButton* next = button(tr("Next"));
+    QPushButton* yes = button(answer(QT_TRANSLATE_NOOP("ObjYesNoBox", "Yes")));
+    QPushButton* no = button(answer(QT_TRANSLATE_NOOP("ObjYesNoBox", "No")));
+    mIndicator->setButtons(next, yes, no);
+}
+
+void TutorialTooltip::clear(QPainter* painter)
+{
+    const QSize arrow = mIndicator->arrow().size();
+    const bool flipped = mIndicator->motion().flippedHorizontally;
+    painter->setCompositionMode(QPainter::CompositionMode_Clear);
+    if (mIndicator->takeFullRepaint()) {
+        painter->fillRect(rect(), Qt::transparent);
+    } else {
+        painter->fillRect(flipped ? kMirroredArrowLeft : 0, 0, arrow.width(),
+            arrow.height() + kBounceRoom, Qt::transparent);
+        painter->fillRect(flipped ? kMirroredArrowLeft - kIconSize : arrow.width(), 0, kIconSize,
+            kIconSize, Qt::transparent);
+    }
+    painter->setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void TutorialTooltip::drawArrow(QPainter* painter) const
+{
+    const QPixmap& arrow = mIndicator->arrow();
+    const bool up = mIndicator->motion().flippedVertically;
+    const bool left = mIndicator->motion().flippedHorizontally;
+    const float bounce = bounceOffset(mIndicator->GetElapsed());
+    const int offset = static_cast<int>(up ? bounce - kUpwardsShift : bounce);
+
+    painter->save();
+    painter->translate(left ? arrow.width() + kMirroredArrowLeft : 0, up ? arrow.height() : 0);
+    painter->scale(left ? -1 : 1, up ? -1 : 1);
+    painter->drawPixmap(QPointF(0, offset), arrow);
+    painter->restore();
+}

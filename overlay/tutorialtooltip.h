@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class QTextEdit;
+class TutorialIndicator;
+
+// The balloon: a transparent window above all others that lets clicks through
+// and paints the arrow, the icon and the hint. It makes the three button
+// windows and hands them to its indicator, which decides everything else.
+class TutorialTooltip : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int kTextTop = 56; // px, text box below the balloon's top
+    static constexpr int kTextWidth = 256; // px
+    static constexpr Qt::WindowFlags kPaintedWindowFlags =
+        Qt::WindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+            | Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
+
+    // parent: the indicator. It does not become the Qt parent: the balloon is a
+    // top-level window. The balloon is shown at once.
+    explicit TutorialTooltip(QWidget* parent);
+
+    // Puts the text into the text box; an empty one hides the box.
+    void setText(const QString& text);
+    // Moves the text box to the balloon's left edge, or back beside the arrow.
+    void placeText(bool flippedHorizontally);
+    // Makes the text box as high as its text. Returns the height in pixels.
+    int fitText();
+
+    // The part of the balloon that the bounce changes, in its own pixels.
+    static QRect animatedRect(const QSize& arrow, bool flippedHorizontally);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void createButtons();
+    void clear(QPainter* painter);
+    void drawArrow(QPainter* painter) const;
+
+    QPointer<TutorialIndicator> mIndicator;
+    QTextEdit* mText;
+};

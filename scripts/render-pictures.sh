@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Renders the drawings in resource/svg to the pictures in resource/png. The
+# pictures are committed, so that only who changes a drawing runs this.
+# Needs rsvg-convert (Debian: librsvg2-bin).
+set -eu
+cd "$(dirname "$0")/../resource"
+
+if ! command -v rsvg-convert >/dev/null 2>&1; then
+  echo "$0: please install rsvg-convert (Debian: librsvg2-bin)" >&2
+  exit 1
+fi
+
+# The two sides of a symmetric drawing come out of the renderer a shade apart:
+# the right half of the arrow is the left one, mirrored.
+drawn=$(rsvg-convert svg/arrow.svg | base64 --wrap 0)
+rsvg-convert --output png/arrow.png <<EOF
+<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="76" height="159">
+  <svg id="half" width="38" height="159">
+    <image width="76" height="159" xlink:href="data:image/png;base64,$drawn"/>
+  </svg>
+  <use xlink:href="#half" transform="matrix(-1 0 0 1 76 0)"/>
+</svg>
+EOF
+
+for icon in click double_click right_click eye wait keyboard; do
+  rsvg-convert svg/icons.svg --export-id "$icon" --output "png/$icon.png"
+done
