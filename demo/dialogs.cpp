@@ -33,8 +33,8 @@ NewProjectDialog::NewProjectDialog(QWidget* parent) : FormDialog(tr("New Project
     mContents->addLayout(form);
     mTitle = addRow(form, tr("Title:"), "title", new QLineEdit);
     mTitle->setPlaceholderText(tr("Name of your game"));
-    mWidth = addRow(form, tr("Width:"), "mapWidth", newSpinBox(kSmallestMap, kLargestMap, 24));
-    mHeight = addRow(form, tr("Height:"), "mapHeight", newSpinBox(kSmallestMap, kLargestMap, 16));
+    mWidth = addRow(form, tr("Width:"), "mapWidth", newSpinBox(kSmallestMap, kLargestMap, 28));
+    mHeight = addRow(form, tr("Height:"), "mapHeight", newSpinBox(kSmallestMap, kLargestMap, 19));
     mGround = addRow(form, tr("Ground:"), "ground", new QComboBox);
     for (Tile tile : {Tile::Grass, Tile::Water, Tile::Sand})
         mGround->addItem(Artwork::tileIcon(tile), tileName(tile), int(tile));

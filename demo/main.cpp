@@ -132,6 +132,9 @@ void setLook(QApplication& application)
         "QMenuBar, QToolBar, QStatusBar { background: #e9ecf1; }"
         "QToolBar { border: none; border-bottom: 1px solid #cfd5de; padding: 3px; spacing: 2px; }"
         "QListWidget, QTreeWidget { border: 1px solid #cfd5de; border-radius: 4px; }"
+        "#listBox2::item, #entries::item, #commands::item { height: 23px; }"
+        "#qt_msgbox_label { min-width: 340px; min-height: 32px; }"
+        "QMessageBox QPushButton { min-width: 84px; min-height: 18px; }"
         "#mapArea { border: 1px solid #cfd5de; background: #5b6674; }"));
 }
 

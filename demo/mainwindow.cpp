@@ -249,6 +249,7 @@ QWidget* MainWindow::newLeftPanel()
     mMapTree = new QTreeWidget;
     mMapTree->setObjectName(QStringLiteral("mapTree"));
     mMapTree->setHeaderHidden(true);
+    mMapTree->setIconSize({20, 20});
     mMapTree->setFixedHeight(kTreeHeight);
     mMapTree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(mMapTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
@@ -322,7 +323,8 @@ void MainWindow::updateTree(int current)
         mMapTree->clear();
         auto* root = new QTreeWidgetItem(mMapTree, {mProject.title});
         for (const GameMap& map : qAsConst(mProject.maps))
-            new QTreeWidgetItem(root, {map.name});
+            (new QTreeWidgetItem(root, {map.name}))
+                ->setIcon(0, Artwork::actionIcon(QStringLiteral("Map")));
         mMapTree->expandAll();
         mMapTree->setCurrentItem(root->child(current));
     }
@@ -386,7 +388,7 @@ void MainWindow::openNewProject()
 
 void MainWindow::openNewMap()
 {
-    const GameMap blank = GameMap::blank(tr("New map"), {24, 16}, Tile::Grass);
+    const GameMap blank = GameMap::blank(tr("New map"), {28, 19}, Tile::Grass);
     open(Window_MapProperties, new MapDialog(tr("New Map"), blank, this),
         [this](const MapDialog& dialog) {
             mProject.maps << dialog.map();
@@ -407,8 +409,9 @@ void MainWindow::openEditMap()
 
 void MainWindow::openDeleteMap()
 {
-    auto* question = new QMessageBox(QMessageBox::Question, tr("Delete Map"),
+    auto* question = new QMessageBox(QMessageBox::NoIcon, tr("Delete Map"),
         tr("Shall the map “%1” be deleted?").arg(map().name), QMessageBox::NoButton, this);
+    question->setIconPixmap(Artwork::actionIcon(QStringLiteral("Tutorial")).pixmap(32));
     question->addButton(tr("Delete"), QMessageBox::AcceptRole);
     question->addButton(tr("Keep"), QMessageBox::RejectRole);
     question->setAttribute(Qt::WA_DeleteOnClose);

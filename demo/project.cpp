@@ -17,22 +17,25 @@ QString translated(const char* text)
 const QLatin1String kLetters(".,T^~:-=#x");
 
 const char* const kMeadow[] = {
-    "~~~~~~~~~~~~~~~~~~~~~~~~",
-    "~~~~::::~~~~~~~~::::~~~~",
-    "~~::..TT::~~~::.TTT.::~~",
-    "~:.TTTTT..:::.TTTTTT..:~",
-    "~:.TTT.......,.TTTT..:~~",
-    "~:..T..,...........,.:~~",
-    "~~:....#.-----#..TT..:~~",
-    "~~:.,.-----..--...TT..:~",
-    "~~:...-.#.xxx.-......::~",
-    "~~::..-...x.x.-----==~~~",
-    "~~~:..-,..xxx.....:~~:~~",
-    "~~~::.-------.,..:~~:.:~",
-    "~~~~:..^^...-..,.:~:..:~",
-    "~~~~::^^^^..-...:~~:.T:~",
-    "~~~~~::::::::::~~~~~::~~",
-    "~~~~~~~~~~~~~~~~~~~~~~~~",
+    "~~~~~~~~~~~~~~~~~~~~~~~~~~~~",
+    "~~~~~~:::::~~~~~~~~::::~~~~~",
+    "~~~:::.TTT.:::~~~::.TT.::~~~",
+    "~~::.TTTTTT..::::..TTTT..:~~",
+    "~:..TTTT........,.TTTTTT..:~",
+    "~:.TTT...,.........TTTT...:~",
+    "~:..T......,....,....T...::~",
+    "~~:....#.-----#......T..::~~",
+    "~~:.,.-----..--.....TT..:~~~",
+    "~::...-.#..xxx-..,......:~~~",
+    "~:..,.-....x.x-------===~~~~",
+    "~:.,..-..,.xxx....:::~~~:::~",
+    "~~:...-------..,..:~~~::..:~",
+    "~~:.......,.-...::~~~:..T.:~",
+    "~~~:..^^....-..,:~~~~:.,..:~",
+    "~~~::^^^^...-..::~~~~::..::~",
+    "~~~~::^^..:::::~~~~~~~::::~~",
+    "~~~~~:::::~~~~~~~~~~~~~~~~~~",
+    "~~~~~~~~~~~~~~~~~~~~~~~~~~~~",
 };
 
 GameMap drawn(const QString& name)
@@ -55,18 +58,18 @@ Project meadow()
     GameMap island = drawn(translated("Meadow Island"));
     MapEvent guide;
     guide.name = translated("Guide");
-    guide.cell = {9, 7};
+    guide.cell = {9, 8};
     guide.commands = QStringList{translated("Show text: Welcome to the island!"),
         translated("Show text: The bridge leads east."), translated("Give item: Old Map")};
     MapEvent chest;
     chest.name = translated("Treasure");
-    chest.cell = {20, 12};
+    chest.cell = {23, 14};
     chest.trigger = 0;
     chest.commands = QStringList{translated("Give item: Silver Key")};
     island.events = {guide, chest};
     project.maps << island << GameMap::blank(translated("Guide's House"), {10, 8}, Tile::Path)
                  << GameMap::blank(translated("Sandbank"), {16, 10}, Tile::Sand);
-    project.start = {12, 11};
+    project.start = {12, 13};
     project.heroes = {{translated("Alma"), 0, 3, false}, {translated("Bruno"), 1, 2, false},
         {translated("Cleo"), 2, 4, true}};
     project.items = {{translated("Apple"), 0, 1, true}, {translated("Old Map"), 1, 1, false},
@@ -78,7 +81,7 @@ Project empty()
 {
     Project project;
     project.title = translated("Untitled");
-    project.maps << GameMap::blank(translated("First Map"), {24, 16}, Tile::Grass);
+    project.maps << GameMap::blank(translated("First Map"), {28, 19}, Tile::Grass);
     project.heroes = {{translated("Hero"), 0, 1, false}};
     project.items = {{translated("Apple"), 0, 1, true}};
     return project;
