@@ -16,6 +16,8 @@ if(TUTORIAL_SANITIZE)
   # One runtime for the whole process, so the flags go to every target at once.
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+  add_library(keep_modules OBJECT ${CMAKE_CURRENT_LIST_DIR}/keepmodules.cpp)
+  link_libraries($<TARGET_OBJECTS:keep_modules>)
 endif()
 
 # project_library(<name> SOURCES ... [LINK ...]): a static library of one room.

@@ -50,6 +50,10 @@ DISPLAY=:$(cat "$folder/display")
 export DISPLAY
 unset WAYLAND_DISPLAY
 export XDG_SESSION_TYPE=x11
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+  mkdir -m 700 "$folder/runtime"
+  export XDG_RUNTIME_DIR=$folder/runtime
+fi
 
 openbox >"$folder/openbox.log" 2>&1 &
 pids+=($!)

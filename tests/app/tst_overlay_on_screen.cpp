@@ -1,0 +1,261 @@
+#include "tests/support/testhost.h"
+#include "tutorial/vocabulary.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <QtTest>
+
+namespace {
+
+constexpr int kDeadlineMs = 20000;
+const QColor kBackground(0, 90, 160);
+
+// From the target that is sent to the place that the arrow points at, in px.
+const QPoint kTip(38, 165);
+
+QImage screenshot()
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+}
+
+// The part of an area that is not background; empty when all of it is.
+QRect painted(const QImage& image, const QRect& area)
+{
+    QRect bounds;
+    const QRect visible = area & image.rect();
+    for (int y = visible.top(); y <= visible.bottom(); ++y) {
+        for (int x = visible.left(); x <= visible.right(); ++x) {
+            if (image.pixelColor(x, y) != kBackground)
+                bounds |= QRect(x, y, 1, 1);
+        }
+    }
+    return bounds;
+}
+
+QStringList updateXy(const QPoint& target)
+{
+    return {QStringLiteral("indicator"), QStringLiteral("updateXy"), QString::number(target.x()),
+        QString::number(target.y())};
+}
+
+QStringList update(const QString& hint, int flags, int icon)
+{
+    return {QStringLiteral("indicator"), QStringLiteral("update"), QStringLiteral("0"),
+        QStringLiteral("0"), QStringLiteral("0"), hint, QString::number(flags),
+        QString::number(icon)};
+}
+
+int runXdotool(const QStringList& arguments)
+{
+    return QProcess::execute(QStringLiteral("xdotool"), arguments);
+}
+
+} // namespace
+
+// The real program above this window, which plays the host, under a window
+// manager.
+class tst_OverlayOnScreen : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void tipStandsOnItsPointOnEverySide_data();
+    void tipStandsOnItsPointOnEverySide();
+    void typingIsNotInterrupted();
+    void buttonsAnswer();
+    void overlayStaysAboveAWindowThatOpensLater();
+    void hostHidesAndShows();
+    void nothingStaysOnTheScreen();
+
+private:
+    // Whether nothing of the overlay can be seen in this window.
+    bool isClean() const;
+    bool waitForOverlay(bool shown) const;
+
+    QScopedPointer<TestHost> mHost;
+    QScopedPointer<QWidget> mWindow;
+    QLineEdit* mEdit = nullptr;
+};
+
+void tst_OverlayOnScreen::init()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    mWindow.reset(new QWidget);
+    mWindow->setWindowFlags(Qt::FramelessWindowHint);
+    QPalette palette;
+    palette.setColor(QPalette::Window, kBackground);
+    mWindow->setPalette(palette);
+    // Window managers put a window that fills the screen above all others.
+    mWindow->setGeometry(screen.adjusted(0, 0, 0, -20));
+    mEdit = new QLineEdit(mWindow.data());
+    mEdit->setGeometry(20, mWindow->height() - 60, 400, 30);
+    mWindow->show();
+    mWindow->activateWindow();
+    mEdit->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.data(), kDeadlineMs));
+
+    mHost.reset(new TestHost);
+    QVERIFY(mHost->startAndConnect());
+    mHost->send({{QStringLiteral("start"), QStringLiteral("0"), QStringLiteral("0"),
+                     QString::number(screen.width()), QString::number(screen.height())},
+        update(QStringLiteral("hint"), 0, 0), updateXy({400, 300})});
+    // A first start takes the activation once; the host takes it back.
+    QTRY_VERIFY_WITH_TIMEOUT(!mWindow->isActiveWindow(), kDeadlineMs);
+    mWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(mWindow.data(), kDeadlineMs));
+}
+
+void tst_OverlayOnScreen::cleanup()
+{
+    mHost.reset();
+    mWindow.reset();
+    QCOMPARE(QApplication::topLevelWidgets().size(), 0);
+}
+
+bool tst_OverlayOnScreen::isClean() const
+{
+    const QRect area = mWindow->rect().adjusted(0, 0, 0, -100);
+    return painted(screenshot(), area).isEmpty();
+}
+
+bool tst_OverlayOnScreen::waitForOverlay(bool shown) const
+{
+    return QTest::qWaitFor([this, shown] { return isClean() != shown; }, kDeadlineMs);
+}
+
+void tst_OverlayOnScreen::tipStandsOnItsPointOnEverySide_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<bool>("up");
+    QTest::newRow("down, text to the right") << QPoint(400, 400) << false;
+    QTest::newRow("up, text to the right") << QPoint(400, 60) << true;
+    QTest::newRow("down, text to the left") << QPoint(1200, 400) << false;
+    QTest::newRow("up, text to the left") << QPoint(1200, 60) << true;
+}
+
+void tst_OverlayOnScreen::tipStandsOnItsPointOnEverySide()
+{
+    QFETCH(QPoint, point);
+    QFETCH(bool, up);
+    mHost->send({updateXy(point - kTip)});
+
+    // The icon is turned off, so that nothing but the arrow stands in the strip
+    // around its tip; the arrow rests half of the time and dips in the other.
+    mHost->send({update(QString(), 0, Tutorial::IconKindCount), updateXy(point - kTip)});
+    const QRect strip(point - QPoint(10, up ? 10 : 60), QSize(21, 71));
+    const auto distance = [&] {
+        const QRect tip = painted(screenshot(), strip);
+        if (tip.isEmpty())
+            return QPoint(9999, 9999);
+        const int y = up ? tip.top() : tip.bottom() + 1;
+        const QRect row = painted(screenshot(), QRect(strip.left(), up ? y : y - 1, 21, 1));
+        return QPoint((row.left() + row.right() + 1) / 2 - point.x(), y - point.y());
+    };
+    QPoint last;
+    QVERIFY2(QTest::qWaitFor(
+                 [&] {
+                     last = distance();
+                     return qAbs(last.x()) <= 3 && qAbs(last.y()) <= 3;
+                 },
+                 kDeadlineMs),
+        qPrintable(QStringLiteral("tip is off by %1, %2").arg(last.x()).arg(last.y())));
+
+    // It never goes beyond its point: over a whole bounce the farthest is rest.
+    QElapsedTimer bounce;
+    bounce.start();
+    int farthest = -9999;
+    while (bounce.elapsed() < 2200) {
+        const QPoint now = distance();
+        farthest = qMax(farthest, up ? -now.y() : now.y());
+        QTest::qWait(20);
+    }
+    QVERIFY2(qAbs(farthest) <= 3, qPrintable(QString::number(farthest)));
+}
+
+void tst_OverlayOnScreen::typingIsNotInterrupted()
+{
+    int activationChanges = 0;
+    connect(qApp, &QApplication::applicationStateChanged, mWindow.data(),
+        [&activationChanges] { ++activationChanges; });
+    const QString text = QStringLiteral("the quick brown fox jumps over the lazy dog");
+    QProcess learner;
+    learner.start(QStringLiteral("xdotool"),
+        {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("50"), text});
+    for (int i = 0; learner.state() != QProcess::NotRunning; ++i) {
+        mHost->send({update(QStringLiteral("hint %1").arg(i), i % 8, i % 7),
+            updateXy({100 + i * 40 % 1100, 60 * i % 400 - 50})});
+        if (i % 5 == 0)
+            mHost->send({{QStringLiteral("stop")}, {QStringLiteral("start")}});
+        QTest::qWait(100);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(mEdit->text(), text, kDeadlineMs);
+    QCOMPARE(activationChanges, 0);
+}
+
+void tst_OverlayOnScreen::buttonsAnswer()
+{
+    const QPoint target(300, 200);
+    const auto click = [&](int offset, const char* answer) {
+        // Buttons stand below the text, whose height only the program knows:
+        // the pointer looks for them from the text box downwards.
+        mHost->reset();
+        const QByteArray packet = QByteArray("1\2") + answer + '\0';
+        for (int y = 80; y < 180 && mHost->receivedWithoutAlive().isEmpty(); y += 20) {
+            runXdotool({QStringLiteral("mousemove"), QString::number(target.x() + 76 + offset),
+                QString::number(target.y() + y), QStringLiteral("click"), QStringLiteral("1")});
+            QTest::qWait(200);
+        }
+        QCOMPARE(mHost->receivedWithoutAlive(), packet);
+    };
+    mHost->send({update(QStringLiteral("Go on"), Tutorial::ShowNextFlag, 0), updateXy(target)});
+    QTest::qWait(3000);
+    click(20, "next");
+    mHost->send({update(QStringLiteral("Shall we?"), Tutorial::ShowYesNoFlag, 0)});
+    QTest::qWait(500);
+    click(20, "yes");
+    click(90, "no");
+}
+
+void tst_OverlayOnScreen::overlayStaysAboveAWindowThatOpensLater()
+{
+    const QPoint point(400, 400);
+    mHost->send({update(QString(), 0, Tutorial::IconKindCount), updateXy(point - kTip)});
+    QVERIFY(waitForOverlay(true));
+    QDialog dialog(mWindow.data());
+    dialog.setPalette(mWindow->palette());
+    dialog.setGeometry(200, 200, 500, 400);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog, kDeadlineMs));
+    mHost->send({{QStringLiteral("windowStack"), QStringLiteral("push"), QStringLiteral("11")}});
+    const QRect strip(point - QPoint(10, 60), QSize(21, 60));
+    QTRY_VERIFY_WITH_TIMEOUT(!painted(screenshot(), strip).isEmpty(), kDeadlineMs);
+}
+
+void tst_OverlayOnScreen::hostHidesAndShows()
+{
+    QVERIFY(waitForOverlay(true));
+    mHost->send({{QStringLiteral("state"), QStringLiteral("hide")}});
+    QVERIFY(waitForOverlay(false));
+    mHost->send({{QStringLiteral("state"), QStringLiteral("show")}});
+    QVERIFY(waitForOverlay(true));
+    mHost->send({{QStringLiteral("stop")}});
+    QVERIFY(waitForOverlay(false));
+}
+
+void tst_OverlayOnScreen::nothingStaysOnTheScreen()
+{
+    QVERIFY(waitForOverlay(true));
+    mHost->send({{QStringLiteral("bye")}});
+    QTRY_COMPARE_WITH_TIMEOUT(mHost->process().state(), QProcess::NotRunning, kDeadlineMs);
+    QCOMPARE(mHost->process().exitCode(), 0);
+    QVERIFY(waitForOverlay(false));
+}
+
+QTEST_MAIN(tst_OverlayOnScreen)
+#include "tst_overlay_on_screen.moc"

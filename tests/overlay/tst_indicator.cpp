@@ -1,0 +1,275 @@
+#include "overlay/overlayowner.h"
+#include "overlay/tutorialindicator.h"
+#include "overlay/tutoriallog.h"
+#include "overlay/tutorialtooltip.h"
+#include "tests/support/windows.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace Tutorial;
+
+namespace {
+
+class Owner : public OverlayOwner {
+public:
+    bool isRunning() const override { return running; }
+    QRect hostRect() const override { return {0, 0, 1280, 800}; }
+    QPoint getXy(EnumWindowKind) const override { return {}; }
+    void send(const QString& message) override { sent << message; }
+    void reorderWindow() override { calls << QStringLiteral("reorder"); }
+    void updateVisibility() override { calls << QStringLiteral("visibility"); }
+
+    bool running = true;
+    QStringList sent;
+    QStringList calls;
+};
+
+// Notes where a window is moved.
+class Moves : public QObject {
+public:
+    explicit Moves(QWidget* window) { window->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Move)
+            positions << static_cast<QWidget*>(watched)->pos();
+        return false;
+    }
+    QVector<QPoint> positions;
+};
+
+template <class Widget>
+QList<Widget*> visible()
+{
+    QList<Widget*> found = windows<Widget>();
+    found.erase(std::remove_if(found.begin(), found.end(),
+                    [](Widget* widget) { return !widget->isVisible(); }),
+        found.end());
+    return found;
+}
+
+TutorialTooltip* balloon()
+{
+    const QList<TutorialTooltip*> found = visible<TutorialTooltip>();
+    return found.size() == 1 ? found.first() : nullptr;
+}
+
+QPushButton* button(const char* text)
+{
+    for (QPushButton* candidate : visible<QPushButton>()) {
+        if (candidate->text() == QLatin1String(text))
+            return candidate;
+    }
+    return nullptr;
+}
+
+// What the overlay's paints left in an area of the balloon.
+QImage picture(const QRect& area)
+{
+    QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    balloon()->render(&image, QPoint(), area, QWidget::DrawChildren);
+    return image;
+}
+
+bool isBlank(const QImage& image)
+{
+    QImage blank(image.size(), image.format());
+    blank.fill(Qt::transparent);
+    return image == blank;
+}
+
+} // namespace
+
+// The windows of the overlay, with an owner of ten lines and no host.
+class tst_Indicator : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void glideMovesBalloonAndButtons();
+    void hintSetsTheHeight();
+    void iconIsDrawnWithoutAnArrow();
+    void sideChangeMovesTheTextBox();
+    void balloonThatWentMissingIsMadeAgain();
+    void buttonsSendAnswers();
+    void closingEndsEverything();
+    void windowsOutliveTheirOwner();
+    void logWindowIsActive();
+
+private:
+    QScopedPointer<Owner> mOwner;
+    QScopedPointer<TutorialIndicator> mIndicator;
+};
+
+void tst_Indicator::init()
+{
+    mOwner.reset(new Owner);
+    mIndicator.reset(new TutorialIndicator(nullptr, mOwner.data()));
+}
+
+void tst_Indicator::cleanup()
+{
+    mIndicator->close();
+    mIndicator.reset();
+    mOwner.reset();
+    QVERIFY(visible<QWidget>().isEmpty());
+    qDeleteAll(windows<TutorialTooltip>());
+    QCOMPARE(QApplication::topLevelWidgets().size(), 0);
+}
+
+void tst_Indicator::glideMovesBalloonAndButtons()
+{
+    mIndicator->setHint(QString());
+    mIndicator->init(false, true);
+    Moves balloons(balloon());
+    Moves yes(button("Yes"));
+    Moves no(button("No"));
+    mIndicator->moveInterpolating(100, 200);
+    const QVector<QPoint> expected = {{25, 50}, {43, 87}, {57, 115}, {67, 136}, {75, 152}};
+    QTRY_VERIFY(balloons.positions.size() >= expected.size());
+    QCOMPARE(balloons.positions.mid(0, expected.size()), expected);
+    for (int i = 0; i < expected.size(); ++i) {
+        QCOMPARE(yes.positions.at(i), expected.at(i) + QPoint(76, 64 + 56));
+        QCOMPARE(no.positions.at(i), expected.at(i) + QPoint(76 + 56, 64 + 56));
+    }
+}
+
+void tst_Indicator::hintSetsTheHeight()
+{
+    auto* text = balloon()->findChild<QTextEdit*>();
+    QVERIFY(!text->isVisible());
+    mIndicator->init(true, false);
+    mIndicator->setHint(QStringLiteral("one<br>two<br>three<br>four<br>five<br>six"));
+    QVERIFY(text->isVisible());
+    QTRY_VERIFY(mIndicator->hintHeight() > 80);
+    const int height = mIndicator->hintHeight();
+    QCOMPARE(text->geometry(), QRect(76, 56, 256, height));
+    // The balloon has not moved, the button below the text has.
+    QCOMPARE(balloon()->pos(), QPoint(0, 0));
+    QCOMPARE(button("Next")->pos(), QPoint(76, height + 56));
+
+    mIndicator->setHint(QString());
+    QVERIFY(!text->isVisible());
+    QCOMPARE(mIndicator->hintHeight(), height);
+}
+
+void tst_Indicator::iconIsDrawnWithoutAnArrow()
+{
+    const QRect arrowArea(0, 0, 76, 175);
+    const QRect iconArea(76, 0, 56, 56);
+    mIndicator->setTargetWindowOffset(1, 1, Window_MainWindow, false);
+    QVERIFY(!isBlank(picture(arrowArea)));
+    QVERIFY(isBlank(picture(iconArea)));
+    mIndicator->setTargetWindowOffset(1, 1, Window_MainWindow, true);
+    mIndicator->setIconKind(Icon_keyboard);
+    QVERIFY(isBlank(picture(arrowArea)));
+    QVERIFY(!isBlank(picture(iconArea)));
+    mIndicator->setIconKind(static_cast<EnumIconKind>(-1));
+    QVERIFY(isBlank(picture(iconArea)));
+}
+
+void tst_Indicator::sideChangeMovesTheTextBox()
+{
+    mIndicator->setHint(QStringLiteral("hint"));
+    mIndicator->setIconKind(Icon_eye);
+    auto* text = balloon()->findChild<QTextEdit*>();
+    mIndicator->moveInterpolating(1200, 100);
+    QTRY_COMPARE_WITH_TIMEOUT(text->pos(), QPoint(0, 56), 10000);
+    QVERIFY(isBlank(picture({0, 0, 76, 56})));
+    QVERIFY(!isBlank(picture({200, 0, 56, 56})));
+    QVERIFY(!isBlank(picture({256, 0, 76, 175})));
+    mIndicator->moveInterpolating(400, 100);
+    QTRY_COMPARE_WITH_TIMEOUT(text->pos(), QPoint(76, 56), 10000);
+    QVERIFY(isBlank(picture({332, 0, 300, 175})));
+}
+
+void tst_Indicator::balloonThatWentMissingIsMadeAgain()
+{
+    mOwner->running = false;
+    balloon()->close();
+    mIndicator->moveInterpolating(50, 50);
+    QTest::qWait(300);
+    QVERIFY(!balloon());
+    mIndicator->showTooltip();
+    mIndicator->hideTooltip();
+
+    mOwner->running = true;
+    QTRY_VERIFY(balloon());
+    balloon()->close();
+    mIndicator->setHint(QStringLiteral("hint"));
+    QVERIFY(balloon()->findChild<QTextEdit*>()->isVisible());
+    balloon()->close();
+    mIndicator->setTargetWindowOffset(-9999, -9999, Window_MainWindow, false);
+    mIndicator->init(true, true);
+    QTest::mouseClick(button("Next"), Qt::LeftButton);
+    QTest::mouseClick(button("No"), Qt::LeftButton);
+    QCOMPARE(mOwner->sent, QStringList({QStringLiteral("next"), QStringLiteral("no")}));
+}
+
+void tst_Indicator::buttonsSendAnswers()
+{
+    mIndicator->init(true, true);
+    for (const char* text : {"Next", "Yes", "No"})
+        QTest::mouseClick(button(text), Qt::LeftButton);
+    QCOMPARE(mOwner->sent.join(QLatin1Char(' ')), QStringLiteral("next yes no"));
+    mIndicator->hideButton();
+    QVERIFY(visible<QPushButton>().isEmpty());
+    mIndicator->showButton();
+    QCOMPARE(visible<QPushButton>().size(), 3);
+
+    button("Yes")->activateWindow();
+    QTRY_VERIFY(button("Yes")->isActiveWindow());
+    QVERIFY(mIndicator->isAnyActive());
+    QVERIFY(!mIndicator->isButtonWindowActive());
+    mIndicator->init(false, true);
+    QVERIFY(mIndicator->isButtonWindowActive());
+}
+
+void tst_Indicator::closingEndsEverything()
+{
+    mIndicator->init(true, true);
+    mIndicator->close();
+    QVERIFY(visible<QWidget>().isEmpty());
+    mIndicator->showButton();
+    mIndicator->init(true, true);
+    mIndicator->showTooltip();
+    QTest::qWait(300);
+    QVERIFY(visible<QWidget>().isEmpty());
+}
+
+void tst_Indicator::windowsOutliveTheirOwner()
+{
+    TutorialLog log(nullptr, mOwner.data());
+    mIndicator->init(true, false);
+    mOwner.reset();
+    QTest::mouseClick(button("Next"), Qt::LeftButton);
+    button("Next")->activateWindow();
+    QTest::qWait(300);
+    QVERIFY(balloon());
+}
+
+void tst_Indicator::logWindowIsActive()
+{
+    TutorialLog log(nullptr, mOwner.data());
+    QTRY_VERIFY(log.isActiveWindow());
+    QVERIFY(mOwner->calls.startsWith(QStringLiteral("reorder")));
+    mOwner->calls.clear();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QTRY_VERIFY(!log.isActiveWindow());
+    QVERIFY(mOwner->calls.contains(QStringLiteral("visibility")));
+    QVERIFY(!mOwner->calls.contains(QStringLiteral("reorder")));
+    QTest::qWait(100);
+    QVERIFY(other.isActiveWindow());
+}
+
+QTEST_MAIN(tst_Indicator)
+#include "tst_indicator.moc"

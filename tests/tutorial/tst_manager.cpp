@@ -1,0 +1,368 @@
+#include "overlay/tutorialindicator.h"
+#include "overlay/tutoriallog.h"
+#include "overlay/tutorialtooltip.h"
+#include "tests/support/testhost.h"
+#include "tests/support/windows.h"
+#include "tutorial/tutorialmanager.h"
+
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <limits>
+
+using namespace Tutorial;
+
+// The class names that a host's windows have at run time.
+class Options_QMLTYPE_12 : public QObject {
+    Q_OBJECT
+};
+class Dialog_Options_QMLTYPE_7 : public QObject {
+    Q_OBJECT
+};
+class OptionsBox_QMLTYPE_3 : public QObject {
+    Q_OBJECT
+};
+class Options : public QObject {
+    Q_OBJECT
+};
+
+namespace {
+
+QString message(const QStringList& fields)
+{
+    return fields.join(QChar(0x01));
+}
+
+QStringList fields(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+QStringList visibleButtons()
+{
+    QStringList texts;
+    for (QPushButton* button : windows<QPushButton>()) {
+        if (button->isVisible())
+            texts << button->text();
+    }
+    texts.sort();
+    return texts;
+}
+
+} // namespace
+
+// The manager in this process at the end of a real socket.
+class tst_Manager : public QObject {
+    Q_OBJECT
+
+public:
+    static inline TestHost* sHost = nullptr;
+
+private slots:
+    void init();
+    void cleanup();
+
+    void aMessageIsSentOnceConnected();
+    void severalMessagesInAPacketComeInOrder();
+    void nothingIsHandledBehindBye();
+    void aBurstIsHandledWhole();
+    void messagesBeforeStartAreIgnored();
+    void startStopStart();
+    void hostRect();
+    void windowStack();
+    void windowPosition();
+    void shortMessagesChangeNothing();
+    void target();
+    void hiddenByTheHost();
+    void windowKindOfAnObject();
+    void escaping();
+    void theFirstManagerIsTheInstance();
+
+private:
+    void receive(const QStringList& message);
+
+    TutorialManager* mManager = nullptr;
+};
+
+void tst_Manager::init()
+{
+    mManager = new TutorialManager(qApp);
+    QTRY_COMPARE(sHost->connections(), 1);
+}
+
+void tst_Manager::cleanup()
+{
+    mManager->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!TutorialManager::mInstance);
+    for (QWidget* window : QApplication::topLevelWidgets())
+        QVERIFY(!window->isVisible());
+    qDeleteAll(windows<TutorialIndicator>());
+    qDeleteAll(windows<TutorialTooltip>());
+    qDeleteAll(windows<TutorialLog>());
+    sHost->reset();
+}
+
+void tst_Manager::receive(const QStringList& message)
+{
+    mManager->handleRead(TestHost::packet({message}));
+}
+
+void tst_Manager::aMessageIsSentOnceConnected()
+{
+    mManager->send(QStringLiteral("next"));
+    mManager->startFromActionIndexList({0, 3, 1});
+    mManager->startFromActionIndexList({});
+    mManager->requestUntr(QStringLiteral("hint"), QStringLiteral("50%2 \"x\""));
+    mManager->requestCoordinates();
+    mManager->updateIndicator(1, -2, Window_Options, QString(), 0, Icon_click);
+    const QByteArray expected = bytes("1\2next\0"
+                                      "1\2start\1"
+                                      "0\1"
+                                      "3\1"
+                                      "1\0"
+                                      "1\2start\1\0"
+                                      "1\2untr\1hint\1"
+                                      "50%2 \"x\"\0"
+                                      "1\2coordinates\1request\0"
+                                      "1\2indicator\1updateXYFollowWindow\1"
+                                      "1\1-2\1"
+                                      "64\0");
+    QTRY_COMPARE(sHost->receivedWithoutAlive(), expected);
+}
+
+void tst_Manager::severalMessagesInAPacketComeInOrder()
+{
+    QSignalSpy received(mManager, &TutorialManager::received);
+    sHost->sendBytes(bytes("0\2alive\2stop\0"
+                           "0\2x\1\1y\0"));
+    QTRY_COMPARE(received.size(), 3);
+    QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("alive"));
+    QCOMPARE(received.at(1).at(0).toString(), QStringLiteral("stop"));
+    QCOMPARE(received.at(2).at(0).toString(), QStringLiteral("x\1\1y"));
+}
+
+void tst_Manager::nothingIsHandledBehindBye()
+{
+    QSignalSpy received(mManager, &TutorialManager::received);
+    QSignalSpy ended(mManager, &QObject::destroyed);
+    receive({QStringLiteral("start")});
+    QCOMPARE(received.size(), 1);
+    sHost->sendBytes(bytes("0\2alive\2bye\2alive\0"
+                           "0\2alive\0"));
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(received.size(), 2);
+    mManager = new TutorialManager(qApp);
+    QTRY_COMPARE(sHost->connections(), 2);
+}
+
+void tst_Manager::aBurstIsHandledWhole()
+{
+    constexpr int kCount = 200000;
+    int next = 0;
+    bool inOrder = true;
+    connect(mManager, &TutorialManager::received, this, [&](const QString& text) {
+        inOrder = inOrder && text == message({QStringLiteral("n"), QString::number(next)});
+        ++next;
+    });
+    QByteArray burst;
+    for (int i = 0; i < kCount; ++i)
+        burst += TestHost::packet({{QStringLiteral("n"), QString::number(i)}});
+    sHost->sendBytes(burst);
+    QTRY_COMPARE_WITH_TIMEOUT(next, kCount, 60000);
+    QVERIFY(inOrder);
+}
+
+void tst_Manager::messagesBeforeStartAreIgnored()
+{
+    receive(fields("windowStack push 5"));
+    receive(fields("windowPosition 5 7 8"));
+    receive(fields("indicator update 1 2 0 hint 1 0"));
+    receive(fields("stop"));
+    QCOMPARE(mManager->getLastWindowKind(0), WindowKindCount);
+    QCOMPARE(mManager->getXy(Window_EventCommandTexts), QPoint());
+    QVERIFY(windows<TutorialIndicator>().isEmpty());
+}
+
+void tst_Manager::startStopStart()
+{
+    receive(fields("start"));
+    QCOMPARE(windows<TutorialIndicator>().size(), 1);
+    QVERIFY(!windows<TutorialIndicator>().first()->isVisible());
+    QVERIFY(windows<TutorialTooltip>().first()->isVisible());
+    QVERIFY(windows<TutorialLog>().first()->isVisible());
+
+    receive(fields("windowStack push 3"));
+    receive(fields("indicator update 1 2 0 hint 2 0"));
+    QCOMPARE(visibleButtons(), fields("No Yes"));
+    receive(fields("start"));
+    QCOMPARE(mManager->getLastWindowKind(0), Window_ImageSelector);
+
+    receive(fields("stop"));
+    QVERIFY(!windows<TutorialTooltip>().first()->isVisible());
+    QVERIFY(!windows<TutorialLog>().first()->isVisible());
+    QCOMPARE(visibleButtons(), QStringList());
+    QCOMPARE(mManager->getLastWindowKind(0), Window_ImageSelector);
+
+    receive(fields("start"));
+    QCOMPARE(windows<TutorialIndicator>().size(), 1);
+    QCOMPARE(visibleButtons(), fields("No Yes"));
+    QCOMPARE(mManager->getLastWindowKind(0), WindowKindCount);
+    receive(fields("indicator update 1 2 0 hint 1 0"));
+    QCOMPARE(visibleButtons(), fields("Next"));
+}
+
+void tst_Manager::hostRect()
+{
+    receive(fields("start 10 20 300 200"));
+    QCOMPARE(mManager->hostRect(), QRect(QPoint(10, 20), QPoint(309, 219)));
+    receive(fields("start 1 2 3"));
+    QCOMPARE(mManager->hostRect().left(), 10);
+    receive(fields("start 2147483647 0 2147483647 1"));
+    QCOMPARE(mManager->hostRect().right(), std::numeric_limits<int>::max());
+}
+
+void tst_Manager::windowStack()
+{
+    receive(fields("start"));
+    QCOMPARE(mManager->getCurrentWindowKind(), Window_MainWindow);
+    receive(fields("windowStack pop"));
+    for (const char* kind : {"2", "10", "7"})
+        receive({QStringLiteral("windowStack"), QStringLiteral("push"), QLatin1String(kind)});
+    QCOMPARE(int(mManager->getLastWindowKind(0)), 7);
+    QCOMPARE(int(mManager->getLastWindowKind(2)), 2);
+    QCOMPARE(int(mManager->getLastWindowKind(3)), 70);
+    QCOMPARE(int(mManager->getLastWindowKind(-1)), 70);
+
+    mManager->popWindowStack(Window_EventCommand);
+    QCOMPARE(mManager->getCurrentWindowKind(), Window_Popup);
+    mManager->popWindowStack(Window_Popup);
+    QCOMPARE(mManager->getCurrentWindowKind(), Window_EventEditorMain);
+    receive(fields("windowStack push 10"));
+    mManager->reorderWindow();
+    mManager->reorderWindow();
+    QCOMPARE(mManager->getCurrentWindowKind(), Window_EventEditorMain);
+
+    // A kind of a newer host is kept, so that its "pop" finds its own entry.
+    receive(fields("windowStack push 99"));
+    receive(fields("windowStack pop 99"));
+    QCOMPARE(mManager->getCurrentWindowKind(), Window_EventEditorMain);
+}
+
+void tst_Manager::windowPosition()
+{
+    receive(fields("start"));
+    receive(fields("windowPosition 64 -5 7"));
+    QCOMPARE(mManager->getXy(Window_Options), QPoint(-5, 7));
+    for (const char* kind : {"70", "-1", "2147483647", "-2147483648"}) {
+        receive({QStringLiteral("windowPosition"), QLatin1String(kind), QStringLiteral("1"),
+            QStringLiteral("1")});
+        QCOMPARE(mManager->getXy(static_cast<EnumWindowKind>(atoi(kind))), QPoint());
+    }
+}
+
+void tst_Manager::shortMessagesChangeNothing()
+{
+    receive(fields("start"));
+    receive(fields("windowPosition 64 5 7"));
+    receive(fields("indicator update 11 12 0 hint 0 0"));
+    for (const char* text : {"windowPosition 64 9", "windowStack push", "windowStack", "indicator",
+             "indicator update 1 2 0 other 0", "indicator updateXy 1", "state", "state x", "log",
+             ""})
+        receive(fields(text));
+    QCOMPARE(mManager->getXy(Window_Options), QPoint(5, 7));
+    QCOMPARE(mManager->getLastWindowKind(0), WindowKindCount);
+    TutorialIndicator* indicator = windows<TutorialIndicator>().first();
+    QCOMPARE(indicator->targetWindowOffset(), QPoint(11, 12));
+    QCOMPARE(indicator->hint(), QStringLiteral("hint"));
+    QVERIFY(windows<TutorialTooltip>().first()->isVisible());
+}
+
+void tst_Manager::target()
+{
+    receive(fields("start"));
+    TutorialIndicator* indicator = windows<TutorialIndicator>().first();
+    receive(fields("windowPosition 66 100 40"));
+    mManager->updateIndicator(5, 6, Window_MapEditTreeBox, QString(), 0, Icon_click);
+    QCOMPARE(indicator->targetWindowOffset(), QPoint(105, 46));
+    QVERIFY(indicator->isArrowVisible());
+    mManager->updateIndicator(5, 6, Window_Options, QString(), HideArrowFlag, Icon_click);
+    QCOMPARE(indicator->targetWindowOffset(), QPoint(5, 6));
+    QVERIFY(!indicator->isArrowVisible());
+    mManager->updateIndicator(-9999, -9999, Window_MapEditTreeBox, QString(), 0, Icon_click);
+    QCOMPARE(indicator->targetWindowOffset(), QPoint(-9999, -9999));
+    QVERIFY(!indicator->isArrowVisible());
+
+    receive(fields("windowPosition 66 2147483647 -2147483648"));
+    receive(fields("indicator update 5 -6 65 hint 0 77"));
+    QCOMPARE(indicator->targetWindowOffset(),
+        QPoint(std::numeric_limits<int>::max(), std::numeric_limits<int>::min()));
+    QVERIFY(indicator->icon().isNull());
+}
+
+void tst_Manager::hiddenByTheHost()
+{
+    receive(fields("start"));
+    receive(fields("indicator update 1 2 0 hint 1 0"));
+    mManager->onApplicationStateChanged(Qt::ApplicationInactive);
+    receive(fields("state hide"));
+    QCOMPARE(visibleButtons(), QStringList());
+    QVERIFY(!windows<TutorialTooltip>().first()->isVisible());
+    QVERIFY(!windows<TutorialLog>().first()->isVisible());
+    mManager->onApplicationStateChanged(Qt::ApplicationSuspended);
+    QVERIFY(!windows<TutorialTooltip>().first()->isVisible());
+    mManager->onApplicationStateChanged(Qt::ApplicationActive);
+    QVERIFY(windows<TutorialTooltip>().first()->isVisible());
+    QCOMPARE(visibleButtons(), fields("Next"));
+    mManager->onApplicationStateChanged(Qt::ApplicationInactive);
+    QVERIFY(!windows<TutorialTooltip>().first()->isVisible());
+    receive(fields("state show"));
+    QVERIFY(windows<TutorialLog>().first()->isVisible());
+}
+
+void tst_Manager::windowKindOfAnObject()
+{
+    Options_QMLTYPE_12 options;
+    Dialog_Options_QMLTYPE_7 dialog;
+    OptionsBox_QMLTYPE_3 box;
+    Options bare;
+    QCOMPARE(mManager->getWindowKind(&options), Window_Options);
+    QCOMPARE(mManager->getWindowKind(&dialog), Window_Options);
+    QCOMPARE(mManager->getWindowKind(&box), WindowKindCount);
+    QCOMPARE(mManager->getWindowKind(&bare), WindowKindCount);
+    QCOMPARE(mManager->getWindowKind(static_cast<QObject*>(nullptr)), WindowKindCount);
+    mManager->setXy(Window_Options, 3, 4);
+    QCOMPARE(mManager->getXy(&dialog), QPoint(3, 4));
+    QCOMPARE(mManager->getXy(&bare), QPoint());
+}
+
+void tst_Manager::escaping()
+{
+    QCOMPARE(TutorialManager::getEscapedString(QStringLiteral("\"\\")), QStringLiteral("\\\"\\\\"));
+    const QString text = QStringLiteral("a\\\"b\\\\\nc\\1");
+    QCOMPARE(TutorialManager::getUnescapedString(TutorialManager::getEscapedString(text)), text);
+}
+
+void tst_Manager::theFirstManagerIsTheInstance()
+{
+    auto* second = new TutorialManager(qApp);
+    QCOMPARE(TutorialManager::mInstance, mManager);
+    delete second;
+    QCOMPARE(TutorialManager::mInstance, mManager);
+}
+
+int main(int argc, char** argv)
+{
+    // The manager takes its connection id from the application's arguments.
+    QByteArray id = TestHost::randomId().toLatin1();
+    char* arguments[] = {argv[0], id.data(), nullptr};
+    int count = 2;
+    QApplication application(count, arguments);
+    TestHost host(QString::fromLatin1(id));
+    tst_Manager::sHost = &host;
+    tst_Manager test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_manager.moc"
