@@ -6,29 +6,21 @@
 #include <QTabWidget>
 
 EntryPage::EntryPage(const Texts& texts, const QVector<Entry>& entries, QWidget* parent)
-    : QWidget(parent), mEntries(entries), mList(new QListWidget), mForm(new QWidget),
-      mName(new QLineEdit), mRole(new QComboBox), mLevel(new QSpinBox),
-      mSpecial(new QCheckBox(texts.special))
+    : QWidget(parent), mEntries(entries), mList(new QListWidget), mForm(new QWidget)
 {
     mList->setObjectName(QStringLiteral("entries"));
     mList->setFixedWidth(170);
     for (const Entry& entry : entries)
         mList->addItem(entry.name);
-    mRole->addItems(texts.roles);
-    mLevel->setRange(1, 99);
 
-    mName->setObjectName(QStringLiteral("name"));
-    mRole->setObjectName(QStringLiteral("role"));
-    mLevel->setObjectName(QStringLiteral("level"));
-    mSpecial->setObjectName(QStringLiteral("special"));
-    auto* form = new QFormLayout(mForm);
-    form->setVerticalSpacing(10);
-    form->addRow(tr("Name:"), mName);
-    form->addRow(texts.role, mRole);
-    form->addRow(texts.level, mLevel);
-    form->addRow({}, mSpecial);
-    for (QWidget* field : QList<QWidget*>{mName, mRole, mLevel, mSpecial})
-        field->setFixedSize(200, 28);
+    QFormLayout* form = FormDialog::newForm(52);
+    mForm->setLayout(form);
+    mName = FormDialog::addRow(form, tr("Name:"), "name", new QLineEdit);
+    mRole = FormDialog::addRow(form, texts.role, "role", new QComboBox);
+    mRole->addItems(texts.roles);
+    mLevel = FormDialog::addRow(form, texts.level, "level", new QSpinBox);
+    mLevel->setRange(1, 99);
+    mSpecial = FormDialog::addRow(form, {}, "special", new QCheckBox(texts.special));
 
     auto* add = new QPushButton(tr("Add"), this);
     auto* remove = new QPushButton(tr("Remove"), this);

@@ -8,7 +8,6 @@ namespace {
 
 constexpr int kFieldWidth = 220;
 constexpr int kRowHeight = 28;
-constexpr int kLabelWidth = 110;
 constexpr int kButtonWidth = 96;
 
 } // namespace
@@ -42,15 +41,14 @@ FormDialog::FormDialog(const QString& title, QWidget* parent) : QDialog(parent)
     layout->addLayout(buttons);
 }
 
-QFormLayout* FormDialog::newForm()
+QFormLayout* FormDialog::newForm(int labelWidth)
 {
     auto* form = new QFormLayout;
     form->setVerticalSpacing(10);
     form->setHorizontalSpacing(12);
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    // An empty row that is as wide as the longest label of any language.
     auto* spacer = new QWidget;
-    spacer->setFixedSize(kLabelWidth, 0);
+    spacer->setFixedSize(labelWidth, 0);
     form->addRow(spacer, static_cast<QWidget*>(nullptr));
     return form;
 }

@@ -14,9 +14,8 @@ class FormDialog : public QDialog {
 public:
     FormDialog(const QString& title, QWidget* parent);
 
-protected:
-    // A form whose labels are all of one width.
-    static QFormLayout* newForm();
+    // A form whose labels take this width, wide enough for every language.
+    static QFormLayout* newForm(int labelWidth = 110);
     // Adds a field under its object name, with its label as its buddy.
     template <typename Field>
     static Field* addRow(QFormLayout* form, const QString& label, const char* name, Field* field)
@@ -26,6 +25,7 @@ protected:
         return field;
     }
 
+protected:
     // Above the buttons; the derived class fills it.
     QVBoxLayout* mContents;
 

@@ -8,10 +8,9 @@
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Project", text);
-}
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Project)
+};
 
 // One letter a cell, in the order of the tiles.
 const QLatin1String kLetters(".,T^~:-=#x");
@@ -54,36 +53,36 @@ GameMap drawn(const QString& name)
 Project meadow()
 {
     Project project;
-    project.title = translated("Meadow Tale");
-    GameMap island = drawn(translated("Meadow Island"));
+    project.title = Text::tr("Meadow Tale");
+    GameMap island = drawn(Text::tr("Meadow Island"));
     MapEvent guide;
-    guide.name = translated("Guide");
+    guide.name = Text::tr("Guide");
     guide.cell = {9, 8};
-    guide.commands = QStringList{translated("Show text: Welcome to the island!"),
-        translated("Show text: The bridge leads east."), translated("Give item: Old Map")};
+    guide.commands = QStringList{Text::tr("Show text: Welcome to the island!"),
+        Text::tr("Show text: The bridge leads east."), Text::tr("Give item: Old Map")};
     MapEvent chest;
-    chest.name = translated("Treasure");
+    chest.name = Text::tr("Treasure");
     chest.cell = {23, 14};
     chest.trigger = 0;
-    chest.commands = QStringList{translated("Give item: Silver Key")};
+    chest.commands = QStringList{Text::tr("Give item: Silver Key")};
     island.events = {guide, chest};
-    project.maps << island << GameMap::blank(translated("Guide's House"), {10, 8}, Tile::Path)
-                 << GameMap::blank(translated("Sandbank"), {16, 10}, Tile::Sand);
+    project.maps << island << GameMap::blank(Text::tr("Guide's House"), {10, 8}, Tile::Path)
+                 << GameMap::blank(Text::tr("Sandbank"), {16, 10}, Tile::Sand);
     project.start = {12, 13};
-    project.heroes = {{translated("Alma"), 0, 3, false}, {translated("Bruno"), 1, 2, false},
-        {translated("Cleo"), 2, 4, true}};
-    project.items = {{translated("Apple"), 0, 1, true}, {translated("Old Map"), 1, 1, false},
-        {translated("Silver Key"), 1, 1, false}};
+    project.heroes = {{Text::tr("Alma"), 0, 3, false}, {Text::tr("Bruno"), 1, 2, false},
+        {Text::tr("Cleo"), 2, 4, true}};
+    project.items = {{Text::tr("Apple"), 0, 1, true}, {Text::tr("Old Map"), 1, 1, false},
+        {Text::tr("Silver Key"), 1, 1, false}};
     return project;
 }
 
 Project empty()
 {
     Project project;
-    project.title = translated("Untitled");
-    project.maps << GameMap::blank(translated("First Map"), {28, 19}, Tile::Grass);
-    project.heroes = {{translated("Hero"), 0, 1, false}};
-    project.items = {{translated("Apple"), 0, 1, true}};
+    project.title = Text::tr("Untitled");
+    project.maps << GameMap::blank(Text::tr("First Map"), {28, 19}, Tile::Grass);
+    project.heroes = {{Text::tr("Hero"), 0, 1, false}};
+    project.items = {{Text::tr("Apple"), 0, 1, true}};
     return project;
 }
 
@@ -103,7 +102,7 @@ QString tileName(Tile tile)
         QT_TRANSLATE_NOOP("Project", "House"),
         QT_TRANSLATE_NOOP("Project", "Fence"),
     };
-    return translated(kNames[int(tile)]);
+    return Text::tr(kNames[int(tile)]);
 }
 
 GameMap GameMap::blank(const QString& name, const QSize& size, Tile ground)

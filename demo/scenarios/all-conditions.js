@@ -115,7 +115,7 @@ var scenario = [
             "hint": qsTr("Right-click a <b>map</b> in the tree."),
             "icon": "rightClick",
             "x": 110,
-            "y": 415
+            "y": 393
         },
         {
             "condition": "windowState,MessageBox,open",
@@ -209,7 +209,7 @@ var scenario = [
     {
         "condition": "yesNo,again,",
         "followWindow": "MainWindow",
-        "hint": QT_TRANSLATE_NOOP("Once more? <b>Yes</b> goes back by a step, <b>No</b> goes on."),
+        "hint": QT_TRANSLATE_NOOP("all-conditions", "Once more? <b>Yes</b> goes back by a step, <b>No</b> goes on."),
         "icon": "eye",
         "x": 705,
         "y": 332

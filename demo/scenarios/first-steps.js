@@ -171,7 +171,7 @@ var scenario = [
             "followWindow": "DatabaseMain",
             "hint": qsTr("Look around as long as you like, then press <b>OK</b>."),
             "icon": "click",
-            "x": 322,
+            "x": 357,
             "y": 322
         }
 ]
