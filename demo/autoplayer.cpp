@@ -140,9 +140,10 @@ bool Autoplayer::takeScreenshot()
     for (int row : step.path)
         name << QString::number(row);
     const QString path = QStringLiteral("%1/%2.png").arg(mScreenshots, name.join(QLatin1Char('-')));
-    if (!QGuiApplication::primaryScreen()->grabWindow(0).save(path))
+    const bool saved = QGuiApplication::primaryScreen()->grabWindow(0).save(path);
+    if (!saved)
         fail(QStringLiteral("the picture %1 cannot be written").arg(path));
-    return true;
+    return saved;
 }
 
 void Autoplayer::act()

@@ -9,8 +9,6 @@
 #include <QString>
 #include <QTimer>
 
-#include <optional>
-
 class TutorialSession;
 struct Condition;
 struct Step;
@@ -36,6 +34,7 @@ private:
     void onStepDone(const Step& step);
     void tick();
     bool arrowHasArrived();
+    // False when it is not the time yet: the arrow is to be at rest.
     bool takeScreenshot();
     void act();
     // The keys that follow the click into the field.

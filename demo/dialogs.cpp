@@ -160,12 +160,12 @@ OptionsDialog::OptionsDialog(const Options& options, QWidget* parent)
     mGridStrength = addRow(
         form, tr("Grid strength:"), "gridStrength", newSpinBox(5, 100, options.gridStrength));
     mGridStrength->setSuffix(QStringLiteral(" %"));
-    mToolBar = addRow(form, tr("Tool bar:"), "toolBarStyle", new QComboBox);
-    mToolBar->addItems({tr("Icons"), tr("Icons and names")});
-    mToolBar->setCurrentIndex(options.toolNames ? 1 : 0);
+    mCells = addRow(form, tr("Cells:"), "cells", new QComboBox);
+    mCells->addItems({tr("Counted from 0"), tr("Counted from 1")});
+    mCells->setCurrentIndex(options.firstCell);
 }
 
 OptionsDialog::Options OptionsDialog::options() const
 {
-    return {mGrid->isChecked(), mGridStrength->value(), mToolBar->currentIndex() == 1};
+    return {mGrid->isChecked(), mGridStrength->value(), mCells->currentIndex()};
 }

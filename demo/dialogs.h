@@ -73,7 +73,7 @@ public:
     struct Options {
         bool grid = true;
         int gridStrength = 15; // percent
-        bool toolNames = false;
+        int firstCell = 0; // what the first row and column are called
     };
 
     OptionsDialog(const Options& options, QWidget* parent);
@@ -83,5 +83,5 @@ public:
 private:
     QCheckBox* mGrid;
     QSpinBox* mGridStrength;
-    QComboBox* mToolBar;
+    QComboBox* mCells;
 };

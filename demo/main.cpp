@@ -25,9 +25,14 @@ struct Arguments {
     bool autoplay = false;
 };
 
-int complain(const QString& text, int exitCode)
+void tell(const QString& text)
 {
     QTextStream(stderr) << "tutorial-demo: " << text << '\n';
+}
+
+int complain(const QString& text, int exitCode)
+{
+    tell(text);
     return exitCode;
 }
 
@@ -170,7 +175,7 @@ int main(int argc, char** argv)
         });
     for (const auto text : {&TutorialSession::notice, &TutorialSession::failed}) {
         QObject::connect(&session, text, &window, [&](const QString& line) {
-            complain(line, 0);
+            tell(line);
             window.showNotice(line);
         });
     }

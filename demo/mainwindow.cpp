@@ -1,22 +1,15 @@
 #include "demo/mainwindow.h"
 
 #include "demo/artwork.h"
-#include "demo/databasedialog.h"
 #include "demo/windowregistry.h"
 
 #include <QActionGroup>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QUndoCommand>
-
-#include <algorithm>
-#include <functional>
-#include <iterator>
 
 using namespace Tutorial;
 
@@ -25,26 +18,6 @@ namespace {
 constexpr QSize kWindowSize(1160, 716);
 constexpr int kPanelWidth = 236;
 constexpr int kTreeHeight = 132;
-constexpr int kNoticeMs = 15000;
-constexpr int kZooms[] = {50, 75, 100, 150, 200};
-
-class DrawCommand : public QUndoCommand {
-public:
-    using Put = std::function<void(const QVector<Tile>&)>;
-
-    DrawCommand(Put put, const QVector<Tile>& before, const QVector<Tile>& after)
-        : mPut(std::move(put)), mBefore(before), mAfter(after)
-    {
-    }
-
-    void undo() override { mPut(mBefore); }
-    void redo() override { mPut(mAfter); }
-
-private:
-    const Put mPut;
-    const QVector<Tile> mBefore;
-    const QVector<Tile> mAfter;
-};
 
 QLabel* newHeading(const QString& text)
 {
@@ -75,25 +48,18 @@ MainWindow::MainWindow(WindowRegistry& registry)
     mTileList->setCurrentRow(0);
 }
 
-bool MainWindow::loadPreset(const QString& name)
+QAction* MainWindow::newAction(const char* name, const QString& text)
 {
-    const std::optional<Project> project = Project::preset(name);
-    if (project)
-        setProject(*project);
-    return project.has_value();
-}
-
-void MainWindow::showNotice(const QString& text)
-{
-    statusBar()->showMessage(text, kNoticeMs);
+    const QString objectName = QLatin1String(name);
+    auto* newOne = new QAction(Artwork::actionIcon(objectName), text, this);
+    newOne->setObjectName(objectName);
+    return newOne;
 }
 
 template <typename Slot>
 QAction* MainWindow::newAction(const char* name, const QString& text, Slot slot)
 {
-    const QString objectName = QLatin1String(name);
-    auto* newOne = new QAction(Artwork::actionIcon(objectName), text, this);
-    newOne->setObjectName(objectName);
+    QAction* newOne = newAction(name, text);
     connect(newOne, &QAction::triggered, this, slot);
     return newOne;
 }
@@ -119,13 +85,9 @@ void MainWindow::makeActions()
         mProject.start = mMapView->cell();
         mMapView->setStart(mProject.start);
     });
-    newAction("Zoom In", tr("Zoom &In"), [this] {
-        zoomTo(*std::upper_bound(std::begin(kZooms), std::end(kZooms) - 1, mZoom));
-    })->setShortcut(QKeySequence::ZoomIn);
-    newAction("Zoom Out", tr("Zoom &Out"), [this] {
-        const auto* zoom = std::lower_bound(std::begin(kZooms), std::end(kZooms), mZoom);
-        zoomTo(zoom == std::begin(kZooms) ? *zoom : *(zoom - 1));
-    })->setShortcut(QKeySequence::ZoomOut);
+    newAction("Zoom In", tr("Zoom &In"), &MainWindow::zoomIn)->setShortcut(QKeySequence::ZoomIn);
+    newAction("Zoom Out", tr("Zoom &Out"), &MainWindow::zoomOut)
+        ->setShortcut(QKeySequence::ZoomOut);
     newAction("Actual Size", tr("&Actual Size"), [this] { zoomTo(100); });
     newAction("Database", tr("&Database…"), &MainWindow::openDatabase)->setShortcut(Qt::Key_F9);
     newAction("Options", tr("&Options…"), &MainWindow::openOptions);
@@ -133,25 +95,30 @@ void MainWindow::makeActions()
     newAction("Tutorial", tr("&First Steps"), [this] {
         emit tutorialRequested(QStringLiteral("first-steps"));
     })->setShortcut(QKeySequence::HelpContents);
+    newAction("All Conditions", tr("&All Conditions"),
+        [this] { emit tutorialRequested(QStringLiteral("all-conditions")); });
+    newAction("Open Scenario", tr("&Open a Scenario…"), [this] {
+        const QString path =
+            QFileDialog::getOpenFileName(this, tr("Open a Scenario"), {}, tr("Scenarios (*.js)"));
+        if (!path.isEmpty())
+            emit tutorialRequested(path);
+    });
+    newAction("Stop Tutorial", tr("&Stop"), &MainWindow::tutorialStopRequested);
     // Not in any menu: it is triggered when a project is there.
-    newAction("Project Loaded", {}, [] {});
+    newAction("Project Loaded", {});
 
-    const auto exclusive = [this](const QList<QAction*>& actions) {
-        auto* group = new QActionGroup(this);
-        for (QAction* one : actions) {
-            one->setCheckable(true);
-            group->addAction(one);
-        }
-        actions.first()->setChecked(true);
-    };
-    exclusive({newAction("Map", tr("Draw the &Map"), [this] { mMapView->setEventMode(false); }),
-        newAction("Event", tr("Place &Events"), [this] { mMapView->setEventMode(true); })});
-    exclusive(
-        {newAction("Pencil", tr("&Pencil"), [this] { mMapView->setTool(MapView::Tool::Pencil); }),
-            newAction("Rectangle", tr("&Rectangle"),
-                [this] { mMapView->setTool(MapView::Tool::Rectangle); }),
-            newAction("Flood Fill", tr("&Flood Fill"),
-                [this] { mMapView->setTool(MapView::Tool::FloodFill); })});
+    makeChoice({newAction("Map", tr("Draw the &Map")), newAction("Event", tr("Place &Events"))});
+    connect(action("Event"), &QAction::toggled, mMapView, &MapView::setEventMode);
+    // In the order of MapView::Tool.
+    const QList<QAction*> tools{newAction("Pencil", tr("&Pencil")),
+        newAction("Rectangle", tr("&Rectangle")), newAction("Flood Fill", tr("&Flood Fill"))};
+    makeChoice(tools);
+    for (int i = 0; i < tools.size(); ++i) {
+        connect(tools.at(i), &QAction::toggled, mMapView, [this, i](bool on) {
+            if (on)
+                mMapView->setTool(MapView::Tool(i));
+        });
+    }
 
     for (const char* name : {"Undo", "Redo"})
         action(name)->setEnabled(false);
@@ -159,11 +126,22 @@ void MainWindow::makeActions()
     connect(&mUndoStack, &QUndoStack::canRedoChanged, action("Redo"), &QAction::setEnabled);
 }
 
+// Makes the actions exclude each other; the first one is chosen.
+void MainWindow::makeChoice(const QList<QAction*>& actions)
+{
+    auto* group = new QActionGroup(this);
+    for (QAction* one : actions) {
+        one->setCheckable(true);
+        group->addAction(one);
+    }
+    actions.first()->setChecked(true);
+}
+
 void MainWindow::makeMenus()
 {
     const struct {
         QString title;
-        QList<const char*> actionNames; // an empty name is a separator
+        QList<const char*> actionNames;
     } menus[] = {
         {tr("&File"), {"New Project", "", "Exit"}},
         {tr("&Edit"), {"Undo", "Redo"}},
@@ -171,54 +149,45 @@ void MainWindow::makeMenus()
         {tr("&Draw"), {"Map", "Event", "", "Pencil", "Rectangle", "Flood Fill"}},
         {tr("&View"), {"Zoom In", "Zoom Out", "Actual Size"}},
         {tr("&Tools"), {"Database", "Options"}},
-        {tr("T&utorial"), {"Tutorial"}},
+        {tr("T&utorial"), {"Tutorial", "All Conditions", "Open Scenario", "", "Stop Tutorial"}},
         {tr("&Help"), {"About"}},
     };
     for (const auto& entry : menus) {
         QMenu* menu = newMenu(entry.actionNames);
         menu->setTitle(entry.title);
         menuBar()->addMenu(menu);
-        if (!entry.actionNames.contains("Tutorial"))
-            continue;
-        menu->addAction(tr("&All Conditions"), this,
-            [this] { emit tutorialRequested(QStringLiteral("all-conditions")); });
-        menu->addAction(tr("&Open a Scenario…"), this, [this] {
-            const QString path = QFileDialog::getOpenFileName(
-                this, tr("Open a Scenario"), {}, tr("Scenarios (*.js)"));
-            if (!path.isEmpty())
-                emit tutorialRequested(path);
-        });
-        menu->addSeparator();
-        menu->addAction(tr("&Stop"), this, &MainWindow::tutorialStopRequested);
+    }
+}
+
+void MainWindow::fillBar(QWidget* bar, const QList<const char*>& names)
+{
+    for (const char* name : names) {
+        auto* next = action(name);
+        if (!next) {
+            next = new QAction(bar);
+            next->setSeparator(true);
+        }
+        bar->addAction(next);
     }
 }
 
 QMenu* MainWindow::newMenu(const QList<const char*>& actionNames)
 {
     auto* menu = new QMenu(this);
-    for (const char* name : actionNames) {
-        if (qstrlen(name) == 0)
-            menu->addSeparator();
-        else
-            menu->addAction(action(name));
-    }
+    fillBar(menu, actionNames);
     mRegistry.add(Window_Popup, menu);
     return menu;
 }
 
 void MainWindow::makeToolBar()
 {
-    mToolBar = addToolBar(tr("Tools"));
-    mToolBar->setMovable(false);
-    mToolBar->setIconSize({24, 24});
-    for (const char* name : {"New Project", "", "Undo", "Redo", "", "Map", "Event", "", "Pencil",
-             "Rectangle", "Flood Fill", "", "Zoom In", "Zoom Out", "Actual Size", "", "Database",
-             "Options", "", "Tutorial"}) {
-        if (qstrlen(name) == 0)
-            mToolBar->addSeparator();
-        else
-            mToolBar->addAction(action(name));
-    }
+    QToolBar* bar = addToolBar(tr("Tools"));
+    bar->setMovable(false);
+    bar->setIconSize({24, 24});
+    fillBar(bar,
+        {"New Project", "", "Undo", "Redo", "", "Map", "Event", "", "Pencil", "Rectangle",
+            "Flood Fill", "", "Zoom In", "Zoom Out", "Actual Size", "", "Database", "Options", "",
+            "Tutorial"});
 }
 
 void MainWindow::makeCentre()
@@ -303,170 +272,4 @@ QWidget* MainWindow::newMapArea()
     area->setObjectName(QStringLiteral("mapArea"));
     area->setWidget(mMapView);
     return area;
-}
-
-void MainWindow::setProject(const Project& project)
-{
-    mProject = project;
-    mUndoStack.clear();
-    setWindowTitle(tr("%1 – Map Workshop").arg(project.title));
-    updateTree(0);
-    action("Project Loaded")->trigger();
-}
-
-void MainWindow::updateTree(int current)
-{
-    // The undo stack knows maps by their index.
-    mUndoStack.clear();
-    {
-        const QSignalBlocker blocker(mMapTree);
-        mMapTree->clear();
-        auto* root = new QTreeWidgetItem(mMapTree, {mProject.title});
-        for (const GameMap& map : qAsConst(mProject.maps))
-            (new QTreeWidgetItem(root, {map.name}))
-                ->setIcon(0, Artwork::actionIcon(QStringLiteral("Map")));
-        mMapTree->expandAll();
-        mMapTree->setCurrentItem(root->child(current));
-    }
-    showMap(current);
-}
-
-void MainWindow::showMap(int index)
-{
-    mMapIndex = index;
-    mMapView->setMap(&map());
-    mMapView->setStart(index == 0 ? std::make_optional(mProject.start) : std::nullopt);
-    mEventList->clear();
-    for (const MapEvent& event : qAsConst(map().events))
-        mEventList->addItem(event.name);
-    action("Delete")->setEnabled(mProject.maps.size() > 1);
-    action("Set Starting Position Player")->setEnabled(index == 0);
-}
-
-void MainWindow::setOptions(const OptionsDialog::Options& options)
-{
-    mOptions = options;
-    mMapView->setGrid(options.grid ? options.gridStrength : 0);
-    mToolBar->setToolButtonStyle(
-        options.toolNames ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
-}
-
-void MainWindow::zoomTo(int percent)
-{
-    mZoom = percent;
-    mMapView->setZoom(percent);
-}
-
-void MainWindow::tellCell(const QPoint& cell)
-{
-    mCellLabel->setText(
-        QStringLiteral("%1, %2   %3").arg(cell.x()).arg(cell.y()).arg(tileName(map().at(cell))));
-}
-
-void MainWindow::onDrawn(const QVector<Tile>& before)
-{
-    const auto put = [this, index = mMapIndex](const QVector<Tile>& tiles) {
-        mProject.maps[index].tiles = tiles;
-        mMapView->update();
-    };
-    mUndoStack.push(new DrawCommand(put, before, map().tiles));
-}
-
-template <typename Dialog, typename Accepted>
-void MainWindow::open(EnumWindowKind kind, Dialog* dialog, Accepted accepted)
-{
-    mRegistry.add(kind, dialog);
-    connect(dialog, &QDialog::accepted, this, [dialog, accepted] { accepted(*dialog); });
-    dialog->open();
-}
-
-void MainWindow::openNewProject()
-{
-    open(Window_NewProject, new NewProjectDialog(this),
-        [this](const NewProjectDialog& dialog) { setProject(dialog.project()); });
-}
-
-void MainWindow::openNewMap()
-{
-    const GameMap blank = GameMap::blank(tr("New map"), {28, 19}, Tile::Grass);
-    open(Window_MapProperties, new MapDialog(tr("New Map"), blank, this),
-        [this](const MapDialog& dialog) {
-            mProject.maps << dialog.map();
-            updateTree(mProject.maps.size() - 1);
-        });
-}
-
-void MainWindow::openEditMap()
-{
-    open(Window_MapProperties, new MapDialog(tr("Edit Map"), map(), this),
-        [this](const MapDialog& dialog) {
-            map() = dialog.map();
-            if (!map().contains(mProject.start))
-                mProject.start = {};
-            updateTree(mMapIndex);
-        });
-}
-
-void MainWindow::openDeleteMap()
-{
-    auto* question = new QMessageBox(QMessageBox::NoIcon, tr("Delete Map"),
-        tr("Shall the map “%1” be deleted?").arg(map().name), QMessageBox::NoButton, this);
-    question->setIconPixmap(Artwork::actionIcon(QStringLiteral("Tutorial")).pixmap(32));
-    question->addButton(tr("Delete"), QMessageBox::AcceptRole);
-    question->addButton(tr("Keep"), QMessageBox::RejectRole);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    open(Window_MessageBox, question, [this](const QMessageBox&) {
-        mProject.maps.remove(mMapIndex);
-        updateTree(qMin(mMapIndex, mProject.maps.size() - 1));
-    });
-}
-
-void MainWindow::openEvent(const QPoint& cell)
-{
-    const int index = map().eventAt(cell);
-    MapEvent event;
-    event.cell = cell;
-    if (index >= 0)
-        event = map().events.at(index);
-    open(Window_EventEditorMain, new EventDialog(event, this),
-        [this, index](const EventDialog& dialog) {
-            if (index >= 0)
-                map().events[index] = dialog.event();
-            else
-                map().events << dialog.event();
-            showMap(mMapIndex);
-        });
-}
-
-void MainWindow::deleteEvent()
-{
-    const int index = map().eventAt(mMapView->cell());
-    if (index < 0)
-        return;
-    map().events.remove(index);
-    showMap(mMapIndex);
-}
-
-void MainWindow::openDatabase()
-{
-    open(Window_DatabaseMain, new DatabaseDialog(mProject, this),
-        [this](const DatabaseDialog& dialog) {
-            mProject.heroes = dialog.heroes();
-            mProject.items = dialog.items();
-        });
-}
-
-void MainWindow::openOptions()
-{
-    open(Window_Options, new OptionsDialog(mOptions, this),
-        [this](const OptionsDialog& dialog) { setOptions(dialog.options()); });
-}
-
-void MainWindow::openAbout()
-{
-    auto* about = new QMessageBox(QMessageBox::NoIcon, tr("About"),
-        tr("A small map editor that shows how a host drives the tutorial."), QMessageBox::Ok, this);
-    about->setIconPixmap(Artwork::applicationIcon().pixmap(48));
-    about->setAttribute(Qt::WA_DeleteOnClose);
-    open(Window_About, about, [](const QMessageBox&) {});
 }

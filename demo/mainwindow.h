@@ -35,16 +35,19 @@ signals:
     void tutorialStopRequested();
 
 private:
+    QAction* newAction(const char* name, const QString& text);
     template <typename Slot>
     QAction* newAction(const char* name, const QString& text, Slot slot);
     QAction* action(const char* name) const;
     void makeActions();
+    void makeChoice(const QList<QAction*>& actions);
     void makeMenus();
     void makeToolBar();
     void makeCentre();
     QWidget* newLeftPanel();
     QWidget* newMapArea();
-    // An empty name is a separator.
+    // Adds the actions to a menu or tool bar; an empty name is a separator.
+    void fillBar(QWidget* bar, const QList<const char*>& names);
     QMenu* newMenu(const QList<const char*>& actionNames);
 
     void setProject(const Project& project);
@@ -53,6 +56,8 @@ private:
     void updateTree(int current);
     GameMap& map() { return mProject.maps[mMapIndex]; }
     void setOptions(const OptionsDialog::Options& options);
+    void zoomIn();
+    void zoomOut();
     void zoomTo(int percent);
     void tellCell(const QPoint& cell);
     void onDrawn(const QVector<Tile>& before);
@@ -76,7 +81,6 @@ private:
     int mZoom = 100;
     OptionsDialog::Options mOptions;
     QUndoStack mUndoStack;
-    QToolBar* mToolBar = nullptr;
     QListWidget* mTileList = nullptr;
     QListWidget* mEventList = nullptr;
     QTreeWidget* mMapTree = nullptr;

@@ -278,6 +278,26 @@
         <translation>&amp;Erste Schritte</translation>
     </message>
     <message>
+        <source>&amp;All Conditions</source>
+        <translation>&amp;Alle Bedingungen</translation>
+    </message>
+    <message>
+        <source>&amp;Open a Scenario…</source>
+        <translation>Szenario ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open a Scenario</source>
+        <translation>Szenario öffnen</translation>
+    </message>
+    <message>
+        <source>Scenarios (*.js)</source>
+        <translation>Szenarien (*.js)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
         <source>Draw the &amp;Map</source>
         <translation>&amp;Karte malen</translation>
     </message>
@@ -328,26 +348,6 @@
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;All Conditions</source>
-        <translation>&amp;Alle Bedingungen</translation>
-    </message>
-    <message>
-        <source>&amp;Open a Scenario…</source>
-        <translation>Szenario ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>Open a Scenario</source>
-        <translation>Szenario öffnen</translation>
-    </message>
-    <message>
-        <source>Scenarios (*.js)</source>
-        <translation>Szenarien (*.js)</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -471,16 +471,16 @@
         <translation>Gitterstärke:</translation>
     </message>
     <message>
-        <source>Tool bar:</source>
-        <translation>Werkzeugleiste:</translation>
+        <source>Cells:</source>
+        <translation>Felder:</translation>
     </message>
     <message>
-        <source>Icons</source>
-        <translation>Symbole</translation>
+        <source>Counted from 0</source>
+        <translation>Gezählt ab 0</translation>
     </message>
     <message>
-        <source>Icons and names</source>
-        <translation>Symbole und Namen</translation>
+        <source>Counted from 1</source>
+        <translation>Gezählt ab 1</translation>
     </message>
 </context>
 <context>
