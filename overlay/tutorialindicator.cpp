@@ -143,7 +143,11 @@ void TutorialIndicator::hideButton()
 
 void TutorialIndicator::showTooltip()
 {
-    setShown(mTooltip, true);
+    if (!mTooltip)
+        return;
+    mTooltip->show();
+    // The host may have opened a window or a menu above it since.
+    mTooltip->raise();
 }
 
 void TutorialIndicator::hideTooltip()
