@@ -249,7 +249,7 @@ void TutorialIndicator::timerEvent(QTimerEvent*)
         mTooltip->repaint(rect());
     else
         mTooltip->repaint(
-            TutorialTooltip::animatedRect(mArrow.size(), mMotion.flippedHorizontally));
+            TutorialTooltip::animatedRegion(mArrow.size(), mMotion.flippedHorizontally));
 }
 
 void TutorialIndicator::closeEvent(QCloseEvent*)

@@ -67,6 +67,8 @@ private slots:
 
     void tipStandsOnItsPointOnEverySide_data();
     void tipStandsOnItsPointOnEverySide();
+    void iconChangesOnBothSides_data();
+    void iconChangesOnBothSides();
     void typingIsNotInterrupted();
     void buttonsAnswer();
     void overlayStaysAboveWindowsThatOpenLater();
@@ -178,6 +180,28 @@ void tst_OverlayOnScreen::tipStandsOnItsPointOnEverySide()
     QVERIFY2(qAbs(farthest) <= 3, qPrintable(QString::number(farthest)));
 }
 
+void tst_OverlayOnScreen::iconChangesOnBothSides_data()
+{
+    QTest::addColumn<QPoint>("target");
+    QTest::addColumn<int>("iconLeft"); // from the target
+    QTest::newRow("right of the arrow") << QPoint(300, 200) << 76;
+    // The balloon's left edge is 180 px and an arrow's width before the target.
+    QTest::newRow("left of the arrow") << QPoint(1100, 200) << 200 - 180 - 76;
+}
+
+void tst_OverlayOnScreen::iconChangesOnBothSides()
+{
+    QFETCH(QPoint, target);
+    QFETCH(int, iconLeft);
+    // Inside of the icon's square by the pixels that the glide may stop short.
+    const QRect square(target + QPoint(iconLeft + 4, 4), QSize(48, 48));
+    for (int icon : {0, int(Tutorial::IconKindCount), 5, int(Tutorial::IconKindCount)}) {
+        mHost->send({update(QString(), 0, icon), updateXy(target)});
+        const QSize expected = icon == Tutorial::IconKindCount ? QSize(0, 0) : square.size();
+        QTRY_COMPARE_WITH_TIMEOUT(painted(screenshot(), square).size(), expected, kDeadlineMs);
+    }
+}
+
 void tst_OverlayOnScreen::typingIsNotInterrupted()
 {
     int activationChanges = 0;
@@ -240,6 +264,7 @@ void tst_OverlayOnScreen::overlayStaysAboveWindowsThatOpenLater()
     // A menu is not in the window manager's hands: it opens above all others,
     // and the step that points into it comes after.
     QWidget menu(&dialog, Qt::ToolTip);
+    menu.setPalette(mWindow->palette());
     menu.setGeometry(dialog.geometry());
     menu.show();
     QTRY_VERIFY_WITH_TIMEOUT(painted(screenshot(), strip).isEmpty(), kDeadlineMs);
