@@ -1,4 +1,5 @@
 #include "editor/scenarioreader.h"
+#include "editor/translationescape.h"
 #include "editor/translationexpression.h"
 
 #include <QElapsedTimer>
@@ -167,7 +168,7 @@ void tst_ScenarioReader::errors_data()
     row("object", "{}", {noArray});
     row("empty", "", {noArray});
     row("where", "[{\"x\": 1}, {\"group\": [{\"x\": 1},\n{\"x\": 1 1}\n]}]",
-        {noArray + QStringLiteral(" (unterminated object, step 1,1, {\"x\": 1 1})")});
+        {noArray + QStringLiteral(" (step 1,1, unterminated object, {\"x\": 1 1})")});
     row("qsTr open", "[{\n\"hint\": qsTr(\"a\"),\n\"comment\": qsTr(\"b\",\n}]",
         {QStringLiteral(
              "closeMarker(),\n) not found (l:2884): \n\"comment\": qsTr(\"b\",\n}] (step 0)"),
@@ -221,6 +222,7 @@ void tst_ScenarioReader::linearTime_data()
     QTest::newRow("steps") << "{\n\"hint\": qsTr(\"a\"),\n\"icon\": \"click\",\n\"x\": 1\n},\n";
     QTest::newRow("comments") << "/* a */ {} ,\n // b\n";
     QTest::newRow("no line ends") << "{\"hint\": \"a\", \"x\": 1}, ";
+    QTest::newRow("expressions on one line") << "{\"a\": QT_TRANSLATE_NOOP(\"a\"), \"x\": 1}, ";
     QTest::newRow("no ends") << "{\"hint\": qsTr(\"a\"), \"x\": \"";
     QTest::newRow("backslashes") << "\"\\\"\\\"\\\"";
     QTest::newRow("open markers") << "qsTr(\"";
@@ -230,7 +232,8 @@ void tst_ScenarioReader::linearTime()
 {
     QFETCH(QString, piece);
     const auto time = [&](int count) {
-        const QString text = QLatin1Char('[') + piece.repeated(count) + QStringLiteral("{}]");
+        const QString text = QLatin1Char('[') + piece.repeated(count)
+            + QStringLiteral("{\"a\": QT_TRANSLATE_NOOP(\"a\"),\n\"x\": 1}]");
         QElapsedTimer timer;
         timer.start();
         QStringList errors;
