@@ -143,6 +143,12 @@ QJsonArray TutorialEditor::parseSteps(const QString& text, QStringList* errors)
     return QJsonArray();
 }
 
+QJsonArray TutorialEditor::readScenario(const QString& fileText, QStringList* errors)
+{
+    const QString text = removeMarkers(removeComments(fileText));
+    return parseSteps(escapeTranslationForJson(text, errors), errors);
+}
+
 bool TutorialEditor::readScenarioFile(const QString& path, QJsonArray* steps, QStringList* errors)
 {
     QString text;
@@ -150,7 +156,6 @@ bool TutorialEditor::readScenarioFile(const QString& path, QJsonArray* steps, QS
         errors->append(ReadError::tr("%1 cannot be opened").arg(path));
         return false;
     }
-    text = removeMarkers(removeComments(text));
-    *steps = parseSteps(escapeTranslationForJson(text, errors), errors);
+    *steps = readScenario(text, errors);
     return errors->isEmpty();
 }

@@ -25,8 +25,11 @@ QString removeMarkers(QString text);
 // The steps in a JSON text; empty, with one more error, when it is no array.
 QJsonArray parseSteps(const QString& text, QStringList* errors);
 
-// All of the above. False when the file could not be opened or has errors;
-// then `errors` says why.
+// The steps in a file's text.
+QJsonArray readScenario(const QString& fileText, QStringList* errors);
+
+// The steps in a file. False when it could not be opened or has errors; then
+// `errors` says why.
 bool readScenarioFile(const QString& path, QJsonArray* steps, QStringList* errors);
 
 } // namespace TutorialEditor

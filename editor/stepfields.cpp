@@ -197,7 +197,8 @@ void setCondition(QJsonObject* step, const StepFields& before, const StepFields&
 {
     const QString stored = step->value(kCondition).toString();
     const QString text = composed(stored, conditionParts(before), conditionParts(now));
-    if (text != stored)
+    // Parameters alone are no condition.
+    if (text != stored && !text.isEmpty() && !text.startsWith(QLatin1Char(',')))
         step->insert(kCondition, text);
 }
 

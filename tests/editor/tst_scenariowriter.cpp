@@ -1,6 +1,5 @@
 #include "editor/scenarioreader.h"
 #include "editor/scenariowriter.h"
-#include "editor/translationescape.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,12 +22,6 @@ private slots:
 };
 
 namespace {
-
-QJsonArray read(const QString& text, QStringList* errors)
-{
-    return parseSteps(
-        escapeTranslationForJson(removeMarkers(removeComments(text)), errors), errors);
-}
 
 QJsonArray arrayOf(const QString& json)
 {
@@ -111,20 +104,13 @@ private:
 
     QString text()
     {
-        static const QString kPieces[] = {QStringLiteral("\""), QStringLiteral("\\"),
-            QStringLiteral("/"), QStringLiteral("\n"), QStringLiteral("\r\n"), QStringLiteral("\t"),
-            QStringLiteral("/*"), QStringLiteral("*/"), QStringLiteral("//"), QStringLiteral("];"),
-            QStringLiteral("var scenario = ["), QStringLiteral("qsTr("), QStringLiteral("qsTr(\""),
-            QStringLiteral("\"),\n"), QStringLiteral("),\n"),
-            QStringLiteral("QT_TRANSLATE_NOOP(\""), QStringLiteral("\":"), QStringLiteral("\",\n"),
-            QStringLiteral("}\n"), QStringLiteral("\n   // "), QStringLiteral("%1"),
-            QStringLiteral("\u0001\b\f"), QStringLiteral("\u2028"),
-            QString::fromUtf8("\xF0\x9F\x8E\x93"),
-            QString::fromUtf8("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D \xE2\x80\xAE"),
-            QStringLiteral("text"), QStringLiteral(" ")};
+        static const char* const kPieces[] = {"\"", "\\", "/", "\n", "\r\n", "\t", "/*", "*/", "//",
+            "];", "var scenario = [", "qsTr(", "qsTr(\"", "\"),\n", "),\n", "QT_TRANSLATE_NOOP(\"",
+            "\":", "\",\n", "}\n", "\n   // ", "%1", "\x01\b\f", "\xE2\x80\xA8", "\xF0\x9F\x8E\x93",
+            "\xD7\xA9\xD7\x9C\xE2\x80\xAE", "text", " "};
         QString result;
         for (int count = below(6); count > 0; --count)
-            result += kPieces[below(int(std::size(kPieces)))];
+            result += QString::fromUtf8(kPieces[below(int(std::size(kPieces)))]);
         // An expression that is not complete is not readable, so it is no text
         // to ask for; anywhere else in a text it is.
         return result.startsWith(QLatin1String("qsTr(")) || result.startsWith(QLatin1String("QT_"))
@@ -139,26 +125,15 @@ private:
 
 void tst_ScenarioWriter::workedExample()
 {
-    const QString file = QStringLiteral("var scenario = [\n"
-                                        "    {\n"
-                                        "        \"comment\": \"open the map\",\n"
-                                        "        \"hint\": qsTr(\"Click here\"),\n"
-                                        "        \"x\": 10,\n"
-                                        "        \"y\": 20\n"
-                                        "    },\n"
-                                        "    {\n"
-                                        "        \"hint\": qsTr(\"Database\"),\n"
-                                        "        \"group\": [\n"
-                                        "        {\n"
-                                        "            \"hint\": \"Next\",\n"
-                                        "            \"x\": 5,\n"
-                                        "            \"y\": 5\n"
-                                        "        }\n"
-                                        "]\n"
-                                        "    }\n"
-                                        "];");
+    const QString file = QStringLiteral(
+        "var scenario = [\n"
+        "    {\n        \"comment\": \"open the map\",\n        \"hint\": qsTr(\"Click here\"),\n"
+        "        \"x\": 10,\n        \"y\": 20\n    },\n"
+        "    {\n        \"hint\": qsTr(\"Database\"),\n        \"group\": [\n"
+        "        {\n            \"hint\": \"Next\",\n            \"x\": 5,\n            \"y\": 5\n"
+        "        }\n]\n    }\n];");
     QStringList errors;
-    const QJsonArray steps = read(file, &errors);
+    const QJsonArray steps = readScenario(file, &errors);
     QCOMPARE(errors, QStringList());
     QCOMPARE(steps[1].toObject()[QStringLiteral("group")].toArray().size(), 1);
     QCOMPARE(scenarioFileText(scenarioJson(steps)), file);
@@ -247,7 +222,7 @@ void tst_ScenarioWriter::randomTrees()
         const QJsonArray tree = Trees(seed).steps(0);
         const QString file = scenarioFileText(scenarioJson(tree));
         QStringList errors;
-        const QJsonArray again = read(file, &errors);
+        const QJsonArray again = readScenario(file, &errors);
         if (!errors.isEmpty() || again != tree || scenarioFileText(scenarioJson(again)) != file)
             QFAIL(qPrintable(QStringLiteral("seed %1: %2\n%3")
                                  .arg(QString::number(seed), errors.join(QLatin1Char(' ')), file)));
