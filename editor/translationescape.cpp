@@ -49,9 +49,10 @@ int expressionEnd(const QString& text, int begin, int content, NextOccurrence* c
         // The blanks were typed by the author.
         if (isAt(text, end, ',') && isAt(text, end + 1, '\n'))
             return end;
-        // The last key of its step has no comma after it.
+        // The last key of its step has no comma after it. As in the close marker,
+        // the line ends with a line feed alone.
         const int lineEnd = end > parenthesis ? text.lastIndexOf(QLatin1Char('\n'), end - 1) : -1;
-        if (isAt(text, end, '}') && lineEnd >= parenthesis)
+        if (isAt(text, end, '}') && lineEnd >= parenthesis && !isAt(text, lineEnd - 1, '\r'))
             return lineEnd;
         // Other ends are no part of the format, but better than the steps
         // between here and the close marker taken for a part of the text.
@@ -90,10 +91,12 @@ bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form, QStrin
         }
         int end = expressionEnd(text, i, i + form.openMarker.size(), &closeMarker);
         if (end == -1) {
-            errors->append(located(
+            const QString message =
                 ReadError::tr("closeMarker(%1) not found (l:%3): %2")
-                    .arg(kCloseMarker, text.mid(copied), QString::number(form.reportNumber)),
-                text, i));
+                    .arg(kCloseMarker, text.mid(copied), QString::number(form.reportNumber));
+            const bool isCrLf = text.indexOf(QLatin1String("\r\n"), i) != -1;
+            errors->append(located(message, text, i,
+                {isCrLf ? ReadError::tr("lines end with CR LF instead of LF") : QString()}));
             return false;
         }
         const bool hasComma = isAt(text, end, ',');

@@ -137,6 +137,10 @@ void tst_ScenarioReader::errors_data()
         "json is not array (step 1,1, unterminated object, {\"x\": 1 1})");
     row("qsTr open", "[{\n\"hint\": qsTr(\"a\"),\n\"comment\": qsTr(\"b\",\n}]",
         "closeMarker(),\n) not found (l:2884): \n\"comment\": qsTr(\"b\",\n}] (step 0)");
+    row("CR LF", "[{\r\n\"hint\": qsTr(\"a\")\r\n}]",
+        "closeMarker(),\n) not found (l:2884): [{\r\n\"hint\": qsTr(\"a\")\r\n}] (step 0, lines "
+        "end "
+        "with CR LF");
     row("NOOP open", "[QT_TRANSLATE_NOOP(\"a\"]",
         "closeMarker(),\n) not found (l:2905): [QT_TRANSLATE_NOOP(\"a\"]");
     row("quoted qsTr without comma", "[{\"hint\": \"qsTr(a)\"\n}]",
