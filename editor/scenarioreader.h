@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QStringList>
+
+// Reads scenario files: a file's text, then the text without comments, then
+// without the script around the array, then JSON (escapeTranslationForJson),
+// then the steps. What cannot be read is appended to a list of errors, made for
+// the author's eyes. Each function takes time in proportion to the text's size.
+namespace TutorialEditor {
+
+// The whole text of the file; false when the file cannot be opened. Bytes that
+// are not UTF-8 come out as replacement characters and are reported.
+bool readScenarioText(const QString& path, QString* text, QStringList* errors);
+
+// Without block comments, then without the lines that hold a line comment and
+// nothing before it. Inside a quoted string, which starts and ends on one line,
+// and inside a complete translation expression a comment is text.
+QString removeComments(const QString& text);
+
+// Without the first "var scenario = " before a "[" and the first ";" after a
+// "]", again not inside of strings; text around them stays.
+QString removeMarkers(QString text);
+
+// The steps in a JSON text; empty, with one more error, when it is no array.
+QJsonArray parseSteps(const QString& text, QStringList* errors);
+
+// The steps in a file's text.
+QJsonArray readScenario(const QString& fileText, QStringList* errors);
+
+// The steps in a file. False when it could not be opened or has errors; then
+// `errors` says why.
+bool readScenarioFile(const QString& path, QJsonArray* steps, QStringList* errors);
+
+} // namespace TutorialEditor
