@@ -15,8 +15,11 @@ double median(QVector<double> values)
 bool reportRow(const QString& subject, const QString& ours, const QString& floor,
     const QString& comparison, const QString& limit, bool kept)
 {
-    const QStringList cells{subject, ours, floor, comparison, limit,
-        kept ? QStringLiteral("yes") : QStringLiteral("**no**")};
+    QStringList cells{subject, ours, floor, comparison};
+    if (limit.isEmpty())
+        cells << QStringLiteral("-") << QStringLiteral("-");
+    else
+        cells << limit << (kept ? QStringLiteral("yes") : QStringLiteral("**no**"));
     QTextStream(stdout) << "| " << cells.join(QStringLiteral(" | ")) << " |\n";
     return kept;
 }

@@ -7,6 +7,7 @@
 double median(QVector<double> values);
 
 // One line of the table of results: both figures as they are to be read, with
-// their unit, and how they compare. Returns whether the limit is kept.
+// their unit, and how they compare; an empty limit for none. Returns whether
+// the limit is kept.
 bool reportRow(const QString& subject, const QString& ours, const QString& floor,
     const QString& comparison, const QString& limit, bool kept);
