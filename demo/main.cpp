@@ -49,12 +49,15 @@ QString scenarioPath(const QString& nameOrPath)
 }
 
 // Fills in the arguments. An exit code when the program is to end at once.
-std::optional<int> parse(const QStringList& commandLine, Arguments* arguments)
+std::optional<int> parse(int argc, char** argv, Arguments* arguments)
 {
+    // For as long as this takes: no display is needed to be told what is wrong.
+    const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("A small map editor that plays tutorials through the program “tutorial”."));
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption help(
+        {QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
     const QCommandLineOption language(QStringLiteral("language"),
         QStringLiteral("Language of the editor and the hints: en or de."), QStringLiteral("L"),
         QLocale::system().language() == QLocale::German ? QStringLiteral("de")
@@ -71,9 +74,9 @@ std::optional<int> parse(const QStringList& commandLine, Arguments* arguments)
     const QCommandLineOption screenshots(QStringLiteral("screenshots"),
         QStringLiteral("With --autoplay: keep a picture of every step there."),
         QStringLiteral("DIR"));
-    parser.addOptions({language, tutorial, play, autoplay, screenshots});
+    parser.addOptions({help, language, tutorial, play, autoplay, screenshots});
 
-    if (!parser.parse(commandLine))
+    if (!parser.parse(QCoreApplication::arguments()))
         return complain(parser.errorText(), kWrongUsage);
     if (parser.isSet(help)) {
         QTextStream(stdout) << parser.helpText();
@@ -147,11 +150,8 @@ void setLook(QApplication& application)
 
 int main(int argc, char** argv)
 {
-    QStringList commandLine;
-    for (int i = 0; i < argc; ++i)
-        commandLine << QString::fromLocal8Bit(argv[i]);
     Arguments arguments;
-    if (const auto exitCode = parse(commandLine, &arguments))
+    if (const auto exitCode = parse(argc, argv, &arguments))
         return *exitCode;
 
     preferX11();

@@ -4,9 +4,9 @@
 #include <QStringList>
 
 // Reads scenario files: a file's text, then the text without comments, then
-// without the script around the array, then JSON, then the steps. What cannot
-// be read is appended to a list of errors, made for the author's eyes. Each
-// function takes time in proportion to the text's size.
+// without the script around the array, then JSON (escapeTranslationForJson),
+// then the steps. What cannot be read is appended to a list of errors, made for
+// the author's eyes. Each function takes time in proportion to the text's size.
 namespace TutorialEditor {
 
 // The whole text of the file; false when the file cannot be opened. Bytes that
@@ -20,18 +20,16 @@ QString removeComments(const QString& text);
 
 // Without the first "var scenario = " before a "[" and the first ";" after a
 // "]", again not inside of strings; text around them stays.
-QString removeMarkers(const QString& text);
-
-// Puts the translation expressions, which stand bare in the file, into JSON
-// strings, and checks the strings. Empty, with one more error, when one is not
-// closed. A QT_TRANSLATE_NOOP takes the comma after it into its string.
-QString escapeTranslationForJson(const QString& text, QStringList* errors);
+QString removeMarkers(QString text);
 
 // The steps in a JSON text; empty, with one more error, when it is no array.
 QJsonArray parseSteps(const QString& text, QStringList* errors);
 
-// All of the above. False when the file could not be opened or has errors;
-// then `errors` says why.
+// The steps in a file's text.
+QJsonArray readScenario(const QString& fileText, QStringList* errors);
+
+// The steps in a file. False when it could not be opened or has errors; then
+// `errors` says why.
 bool readScenarioFile(const QString& path, QJsonArray* steps, QStringList* errors);
 
 } // namespace TutorialEditor

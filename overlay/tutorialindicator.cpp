@@ -143,7 +143,11 @@ void TutorialIndicator::hideButton()
 
 void TutorialIndicator::showTooltip()
 {
-    setShown(mTooltip, true);
+    if (!mTooltip)
+        return;
+    mTooltip->show();
+    // The host may have opened a window or a menu above it since.
+    mTooltip->raise();
 }
 
 void TutorialIndicator::hideTooltip()
@@ -245,7 +249,7 @@ void TutorialIndicator::timerEvent(QTimerEvent*)
         mTooltip->repaint(rect());
     else
         mTooltip->repaint(
-            TutorialTooltip::animatedRect(mArrow.size(), mMotion.flippedHorizontally));
+            TutorialTooltip::animatedRegion(mArrow.size(), mMotion.flippedHorizontally));
 }
 
 void TutorialIndicator::closeEvent(QCloseEvent*)

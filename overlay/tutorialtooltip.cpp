@@ -67,10 +67,14 @@ int TutorialTooltip::fitText()
     return height;
 }
 
-QRect TutorialTooltip::animatedRect(const QSize& arrow, bool flippedHorizontally)
+QRegion TutorialTooltip::animatedRegion(const QSize& arrow, bool flippedHorizontally)
 {
-    return {flippedHorizontally ? kMirroredArrowLeft : 0, 0, arrow.width() + kIconSize,
-        arrow.height() + kBounceRoom + kIconSize};
+    const int left = flippedHorizontally ? kMirroredArrowLeft : 0;
+    QRegion region(left, 0, arrow.width() + kIconSize, arrow.height() + kBounceRoom + kIconSize);
+    // The icon stands to the right of the arrow, or else on its other side.
+    if (flippedHorizontally)
+        region += QRect(kMirroredArrowLeft - kIconSize, 0, kIconSize, kIconSize);
+    return region;
 }
 
 void TutorialTooltip::paintEvent(QPaintEvent* event)

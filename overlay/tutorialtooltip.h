@@ -30,8 +30,9 @@ public:
     // Makes the text box as high as its text. Returns the height in pixels.
     int fitText();
 
-    // The part of the balloon that the bounce changes, in its own pixels.
-    static QRect animatedRect(const QSize& arrow, bool flippedHorizontally);
+    // The part of the balloon that the arrow and the icon change, in its own
+    // pixels.
+    static QRegion animatedRegion(const QSize& arrow, bool flippedHorizontally);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -67,9 +67,11 @@ private slots:
 
     void tipStandsOnItsPointOnEverySide_data();
     void tipStandsOnItsPointOnEverySide();
+    void iconChangesOnBothSides_data();
+    void iconChangesOnBothSides();
     void typingIsNotInterrupted();
     void buttonsAnswer();
-    void overlayStaysAboveAWindowThatOpensLater();
+    void overlayStaysAboveWindowsThatOpenLater();
     void hostHidesAndShows();
     void nothingStaysOnTheScreen();
 
@@ -178,6 +180,28 @@ void tst_OverlayOnScreen::tipStandsOnItsPointOnEverySide()
     QVERIFY2(qAbs(farthest) <= 3, qPrintable(QString::number(farthest)));
 }
 
+void tst_OverlayOnScreen::iconChangesOnBothSides_data()
+{
+    QTest::addColumn<QPoint>("target");
+    QTest::addColumn<int>("iconLeft"); // from the target
+    QTest::newRow("right of the arrow") << QPoint(300, 200) << 76;
+    // The balloon's left edge is 180 px and an arrow's width before the target.
+    QTest::newRow("left of the arrow") << QPoint(1100, 200) << 200 - 180 - 76;
+}
+
+void tst_OverlayOnScreen::iconChangesOnBothSides()
+{
+    QFETCH(QPoint, target);
+    QFETCH(int, iconLeft);
+    // Inside of the icon's square by the pixels that the glide may stop short.
+    const QRect square(target + QPoint(iconLeft + 4, 4), QSize(48, 48));
+    for (int icon : {0, int(Tutorial::IconKindCount), 5, int(Tutorial::IconKindCount)}) {
+        mHost->send({update(QString(), 0, icon), updateXy(target)});
+        const QSize expected = icon == Tutorial::IconKindCount ? QSize(0, 0) : square.size();
+        QTRY_COMPARE_WITH_TIMEOUT(painted(screenshot(), square).size(), expected, kDeadlineMs);
+    }
+}
+
 void tst_OverlayOnScreen::typingIsNotInterrupted()
 {
     int activationChanges = 0;
@@ -222,10 +246,11 @@ void tst_OverlayOnScreen::buttonsAnswer()
     click(90, "no");
 }
 
-void tst_OverlayOnScreen::overlayStaysAboveAWindowThatOpensLater()
+void tst_OverlayOnScreen::overlayStaysAboveWindowsThatOpenLater()
 {
     const QPoint point(400, 400);
-    mHost->send({update(QString(), 0, Tutorial::IconKindCount), updateXy(point - kTip)});
+    const QStringList step = update(QString(), 0, Tutorial::IconKindCount);
+    mHost->send({step, updateXy(point - kTip)});
     QVERIFY(waitForOverlay(true));
     QDialog dialog(mWindow.data());
     dialog.setPalette(mWindow->palette());
@@ -234,6 +259,16 @@ void tst_OverlayOnScreen::overlayStaysAboveAWindowThatOpensLater()
     QVERIFY(QTest::qWaitForWindowActive(&dialog, kDeadlineMs));
     mHost->send({{QStringLiteral("windowStack"), QStringLiteral("push"), QStringLiteral("11")}});
     const QRect strip(point - QPoint(10, 60), QSize(21, 60));
+    QTRY_VERIFY_WITH_TIMEOUT(!painted(screenshot(), strip).isEmpty(), kDeadlineMs);
+
+    // A menu is not in the window manager's hands: it opens above all others,
+    // and the step that points into it comes after.
+    QWidget menu(&dialog, Qt::ToolTip);
+    menu.setPalette(mWindow->palette());
+    menu.setGeometry(dialog.geometry());
+    menu.show();
+    QTRY_VERIFY_WITH_TIMEOUT(painted(screenshot(), strip).isEmpty(), kDeadlineMs);
+    mHost->send({step});
     QTRY_VERIFY_WITH_TIMEOUT(!painted(screenshot(), strip).isEmpty(), kDeadlineMs);
 }
 

@@ -6,6 +6,7 @@ class tst_DemoProgram : public QObject {
     Q_OBJECT
 
 private slots:
+    void help();
     void wrongUsage_data();
     void wrongUsage();
     void autoplayTellsWhereItIsStuck();
@@ -30,6 +31,12 @@ int tst_DemoProgram::run(const QStringList& arguments, const char* platform)
     const bool ended = program.waitForFinished(60000);
     mErrors = QString::fromUtf8(program.readAllStandardError());
     return ended ? program.exitCode() : -1;
+}
+
+void tst_DemoProgram::help()
+{
+    QCOMPARE(run({QStringLiteral("--help")}, "none"), 0);
+    QCOMPARE(mErrors, QString());
 }
 
 void tst_DemoProgram::wrongUsage_data()

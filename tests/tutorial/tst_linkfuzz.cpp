@@ -152,5 +152,15 @@ void tst_LinkFuzz::nonsenseDoesNoHarm()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-QTEST_MAIN(tst_LinkFuzz)
+int main(int argc, char** argv)
+{
+    // A connection id that nobody serves.
+    QByteArray id = TestHost::randomId().toLatin1();
+    char* arguments[] = {argv[0], id.data(), nullptr};
+    int count = 2;
+    QApplication application(count, arguments);
+    tst_LinkFuzz test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_linkfuzz.moc"

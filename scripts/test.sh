@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs what is needed, builds the release and the sanitized programs without
+# a warning, and runs every test with both. The last line counts the tests.
+#
+#   scripts/test.sh [PRESET ...]     (release asan)
+#
+# TUTORIAL_SKIP_BOOTSTRAP: set it to leave the system's packages alone.
+set -eu
+cd "$(dirname "$0")/.."
+
+[ -n "${TUTORIAL_SKIP_BOOTSTRAP:-}" ] || scripts/bootstrap.sh
+
+presets=("$@")
+[ ${#presets[@]} -gt 0 ] || presets=(release asan)
+jobs=$(nproc)
+failed=0
+logs=()
+for preset in "${presets[@]}"; do
+  cmake --preset "$preset" -DTUTORIAL_WERROR=ON >/dev/null
+  cmake --build --preset "$preset" --parallel "$jobs"
+  ctest --preset "$preset" --parallel "$jobs" || failed=1
+  logs+=("build/$preset/Testing/Temporary/LastTest.log")
+done
+
+# A test program reports its own cases; a scenario that was played counts as one.
+awk -v broken="$failed" '
+  /^Totals: / { passed += $2; failures += $4; cases = 1 }
+  /^Test (Passed|Failed)\.$/ {
+    if ($2 == "Passed.") { if (!cases) ++passed } else { if (!cases) ++failures }
+    cases = 0
+  }
+  END {
+    if (broken && !failures) failures = 1
+    printf "%d passed, %d failed\n", passed, failures
+    exit failures > 0
+  }' "${logs[@]}"
