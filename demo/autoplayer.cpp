@@ -1,0 +1,214 @@
+#include "demo/autoplayer.h"
+
+#include "demo/tutorialsession.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <QTextStream>
+
+#include <algorithm>
+
+using namespace Tutorial;
+
+namespace {
+
+constexpr int kTickMs = 50;
+constexpr int kDeadlineMs = 20000;
+// The hint is laid out at a tick of the tutorial's, and painted after it.
+constexpr int kPaintMs = 400;
+// The arrow rests for the first half of its bounce, which begins with the step.
+constexpr int kBounceMs = 2000;
+constexpr int kRestMs = 800;
+
+// From a click into a field, or on a box that opens its list, to the keys.
+constexpr int kReactionMs = 250;
+
+constexpr QSize kBalloonSize(640, 480);
+constexpr QSize kButtonSize(64, 32);
+// The balloon stops short by a few pixels when it comes from the left or above.
+constexpr int kTolerance = 3;
+// How far the balloon stands away when it is on the other side of its target.
+constexpr int kFlippedBy = 180 + 76;
+constexpr int kFlippedDown = 165;
+
+// What is typed into a line edit, as much of it as the step asks for.
+const QString kText = QStringLiteral("Meadow Tale and the long way home");
+
+bool isNear(int value, int wanted)
+{
+    return qAbs(value - wanted) <= kTolerance;
+}
+
+// A number that meets the comparison, for the length or the value to enter.
+int enough(const QString& comparison, int number)
+{
+    if (comparison == QLatin1String("<"))
+        return number - 1;
+    if (comparison == QLatin1String(">") || comparison == QLatin1String("!="))
+        return number + 1;
+    return number;
+}
+
+} // namespace
+
+Autoplayer::Autoplayer(TutorialSession& session, const QString& screenshots)
+    : mSession(session), mScreenshots(screenshots)
+{
+    connect(&session, &TutorialSession::stepShown, this, &Autoplayer::onStepShown);
+    connect(&session, &TutorialSession::stepDone, this, &Autoplayer::onStepDone);
+    connect(&session, &TutorialSession::failed, this, &Autoplayer::fail);
+    connect(&session, &TutorialSession::finished, this, [] { QCoreApplication::exit(0); });
+    mTimer.setInterval(kTickMs);
+    connect(&mTimer, &QTimer::timeout, this, &Autoplayer::tick);
+}
+
+bool Autoplayer::start(const QString& path)
+{
+    QTextStream errors(stderr);
+    if (!mInput.isUsable()) {
+        errors << "tutorial-demo: the X server has no test extension\n";
+        return false;
+    }
+    if (!mScreenshots.isEmpty() && !QDir().mkpath(mScreenshots)) {
+        errors << "tutorial-demo: the folder " << mScreenshots << " cannot be made\n";
+        return false;
+    }
+    if (!mSession.play(path))
+        return false;
+    mStepTime.start();
+    mTimer.start();
+    return true;
+}
+
+void Autoplayer::onStepShown(const Step&)
+{
+    mShownTime.start();
+    mToBeDone = true;
+}
+
+void Autoplayer::onStepDone(const Step& step)
+{
+    QTextStream(stdout) << step.pathText() << ' ' << step.condition.text << " ok\n";
+    mStepTime.start();
+    mToBeDone = false;
+}
+
+void Autoplayer::tick()
+{
+    if (mStepTime.hasExpired(kDeadlineMs)) {
+        const ScenarioPlayer& player = mSession.player();
+        const QString what = player.isPlaying()
+            ? player.step().pathText() + QLatin1Char(' ') + player.step().condition.text
+            : QStringLiteral("the tutorial to connect");
+        fail(QStringLiteral("waited %1 s for %2").arg(kDeadlineMs / 1000).arg(what));
+        return;
+    }
+    if (mToBeDone && mShownTime.hasExpired(kPaintMs) && arrowHasArrived() && takeScreenshot()) {
+        mToBeDone = false;
+        act();
+    }
+}
+
+bool Autoplayer::arrowHasArrived()
+{
+    const QPoint wanted = mSession.sentPointOf(mSession.player().step());
+    const QVector<QRect> windows = mInput.windowsOf(mSession.link().processId());
+    return std::any_of(windows.begin(), windows.end(), [&wanted](const QRect& window) {
+        return window.size() == kBalloonSize
+            && (isNear(window.x(), wanted.x()) || isNear(window.x(), wanted.x() - kFlippedBy))
+            && (isNear(window.y(), wanted.y()) || isNear(window.y(), wanted.y() + kFlippedDown));
+    });
+}
+
+bool Autoplayer::takeScreenshot()
+{
+    if (mScreenshots.isEmpty())
+        return true;
+    if (mShownTime.elapsed() % kBounceMs > kRestMs)
+        return false;
+    const Step& step = mSession.player().step();
+    QStringList name{QStringLiteral("%1").arg(++mPictures, 2, 10, QLatin1Char('0'))};
+    for (int row : step.path)
+        name << QString::number(row);
+    const QString path = QStringLiteral("%1/%2.png").arg(mScreenshots, name.join(QLatin1Char('-')));
+    if (!QGuiApplication::primaryScreen()->grabWindow(0).save(path))
+        fail(QStringLiteral("the picture %1 cannot be written").arg(path));
+    return true;
+}
+
+void Autoplayer::act()
+{
+    const Step& step = mSession.player().step();
+    const Condition& condition = step.condition;
+    const QPoint target = mSession.targetOf(step);
+    switch (condition.kind) {
+    case Condition_wait:
+        break;
+    case Condition_click:
+    case Condition_yesNo:
+        clickAnswer(step);
+        break;
+    case Condition_textLength:
+    case Condition_spinBox:
+    case Condition_comboBox:
+        mInput.click(target);
+        QTimer::singleShot(kReactionMs, this, [this, condition] { enter(condition); });
+        break;
+    default:
+        if (step.icon == Icon_doubleClick)
+            mInput.doubleClick(target);
+        else
+            mInput.click(target, step.icon == Icon_rightClick ? XInput::Right : XInput::Left);
+        break;
+    }
+}
+
+void Autoplayer::enter(const Condition& condition)
+{
+    const int number = condition.parameter(1).toInt();
+    if (condition.kind == Condition_comboBox) {
+        mInput.press(QStringLiteral("Home"));
+        for (int row = 0; row < number; ++row)
+            mInput.press(QStringLiteral("Down"));
+        mInput.press(QStringLiteral("Return"));
+        return;
+    }
+    const int wanted = enough(condition.parameter(0), number);
+    mInput.press(QStringLiteral("a"), true);
+    mInput.type(condition.kind == Condition_spinBox ? QString::number(wanted) : kText.left(wanted));
+}
+
+// Yes the first time and No when the step comes again, so that a loop ends and
+// both branches are played.
+void Autoplayer::clickAnswer(const Step& step)
+{
+    QVector<QRect> buttons = mInput.windowsOf(mSession.link().processId());
+    buttons.erase(std::remove_if(buttons.begin(), buttons.end(),
+                      [](const QRect& window) { return window.size() != kButtonSize; }),
+        buttons.end());
+    const int expected = step.condition.kind == Condition_yesNo ? 2 : 1;
+    if (buttons.size() != expected) {
+        fail(QStringLiteral("%1 %2: %3 buttons instead of %4")
+                 .arg(step.pathText(), step.condition.text)
+                 .arg(buttons.size())
+                 .arg(expected));
+        return;
+    }
+    // The two overlap in the middle: each is clicked at its outer edge.
+    std::sort(buttons.begin(), buttons.end(),
+        [](const QRect& a, const QRect& b) { return a.x() < b.x(); });
+    const bool no = expected == 2 && mAnswered.contains(step.pathText());
+    mAnswered << step.pathText();
+    const QRect button = no ? buttons.last() : buttons.first();
+    const int fromEdge = kButtonSize.width() / 4;
+    mInput.click({no ? button.right() - fromEdge : button.left() + fromEdge, button.center().y()});
+}
+
+void Autoplayer::fail(const QString& reason)
+{
+    mTimer.stop();
+    QTextStream(stderr) << "tutorial-demo: failed: " << reason << '\n';
+    QCoreApplication::exit(1);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "demo/xinput.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPoint>
+#include <QSet>
+#include <QString>
+#include <QTimer>
+
+#include <optional>
+
+class TutorialSession;
+struct Condition;
+struct Step;
+
+// Plays the learner: does at the arrow's tip what the step asks for, with real
+// input, and presses the tutorial's own buttons. It knows nothing but what a
+// learner sees, so a step that points to the wrong place is not passed.
+//
+// Ends the application with 0 when the scenario was played to its end, and with
+// 1 when a step takes too long or the tutorial is gone.
+class Autoplayer : public QObject {
+    Q_OBJECT
+
+public:
+    // screenshots: folder for one picture a step; empty for none.
+    Autoplayer(TutorialSession& session, const QString& screenshots);
+
+    // Plays the file. False, with a message, when that cannot be.
+    bool start(const QString& path);
+
+private:
+    void onStepShown(const Step& step);
+    void onStepDone(const Step& step);
+    void tick();
+    bool arrowHasArrived();
+    bool takeScreenshot();
+    void act();
+    // The keys that follow the click into the field.
+    void enter(const Condition& condition);
+    void clickAnswer(const Step& step);
+    void fail(const QString& reason);
+
+    TutorialSession& mSession;
+    QString mScreenshots;
+    XInput mInput;
+    QTimer mTimer;
+    // Since the step began, and since it was shown.
+    QElapsedTimer mStepTime;
+    QElapsedTimer mShownTime;
+    // The step is shown and has not been acted on yet.
+    bool mToBeDone = false;
+    int mPictures = 0;
+    // Steps that were answered with Yes.
+    QSet<QString> mAnswered;
+};

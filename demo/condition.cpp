@@ -1,0 +1,143 @@
+#include "demo/condition.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+using namespace Tutorial;
+
+namespace {
+
+const QHash<QString, bool (*)(int, int)> kComparisons = {
+    {QStringLiteral("="), [](int left, int right) { return left == right; }},
+    {QStringLiteral("<"), [](int left, int right) { return left < right; }},
+    {QStringLiteral("<="), [](int left, int right) { return left <= right; }},
+    {QStringLiteral(">"), [](int left, int right) { return left > right; }},
+    {QStringLiteral(">="), [](int left, int right) { return left >= right; }},
+    {QStringLiteral("!="), [](int left, int right) { return left != right; }},
+};
+const QStringList kStates = {QStringLiteral("open"), QStringLiteral("close"), QStringLiteral("ok"),
+    QStringLiteral("cancel")};
+const QStringList kLists = {
+    QStringLiteral("listBox1"), QStringLiteral("listBox2"), QStringLiteral("Map")};
+const QStringList kMouseEvents = {QStringLiteral("click"), QStringLiteral("doubleClick")};
+
+bool compare(std::optional<int> left, const QString& comparison, int right)
+{
+    const auto holds = kComparisons.value(comparison);
+    return left && holds && holds(*left, right);
+}
+
+bool isInteger(const QString& text)
+{
+    bool ok = false;
+    text.toInt(&ok);
+    return ok;
+}
+
+bool isSeconds(const QString& text)
+{
+    bool ok = false;
+    return text.toDouble(&ok) >= 0 && ok;
+}
+
+bool parametersAreSound(const Condition& condition)
+{
+    const QString first = condition.parameter(0);
+    const QString second = condition.parameter(1);
+    switch (condition.kind) {
+    case Condition_windowState:
+        return getWindowKind(first) != WindowKindCount && kStates.contains(second);
+    case Condition_wait:
+        return isSeconds(first);
+    case Condition_mouseEvent:
+        return kLists.contains(first) && kMouseEvents.contains(second);
+    case Condition_textLength:
+    case Condition_spinBox:
+        return kComparisons.contains(first) && isInteger(second);
+    case Condition_popup:
+        return first == QLatin1String("*") || kLists.contains(first);
+    case Condition_list:
+        return isInteger(first);
+    case Condition_action:
+        return !first.isEmpty();
+    case Condition_pressed:
+        return isInteger(first) && isInteger(second);
+    case Condition_comboBox:
+        return !first.isEmpty() && isInteger(second);
+    case Condition_checked:
+        return !first.isEmpty() && (second == QLatin1String("0") || second == QLatin1String("1"));
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+Condition Condition::fromText(const QString& text)
+{
+    Condition condition;
+    condition.text = text;
+    condition.parameters = text.split(QLatin1Char(','));
+    condition.kind = getConditionKind(condition.parameters.takeFirst());
+    return condition;
+}
+
+QString Condition::fault() const
+{
+    if (kind == ConditionKindCount)
+        return QCoreApplication::translate("Condition", "unknown condition “%1”").arg(text);
+    if (!parametersAreSound(*this))
+        return QCoreApplication::translate("Condition", "wrong parameters in “%1”").arg(text);
+    return {};
+}
+
+bool isMet(const Condition& condition, EnumWindowKind followed, const HostState& state)
+{
+    const QString first = condition.parameter(0);
+    const QString second = condition.parameter(1);
+    switch (condition.kind) {
+    case Condition_windowState: {
+        const QString now = state.windowState(getWindowKind(first));
+        return second == QLatin1String("close") ? now != QLatin1String("open") : now == second;
+    }
+    case Condition_textLength:
+        return compare(state.textLength(followed), first, second.toInt());
+    case Condition_comboBox:
+        return state.comboBoxRow(followed, first) == second.toInt();
+    case Condition_checked:
+        return state.isChecked(followed, first) == (second == QLatin1String("1"));
+    case Condition_spinBox:
+        return compare(state.spinBoxValue(followed), first, second.toInt());
+    default:
+        return false;
+    }
+}
+
+bool isAboutNothing(const Condition& condition, EnumWindowKind followed, const HostState& state)
+{
+    const QString name = condition.parameter(0);
+    return (condition.kind == Condition_comboBox && !state.comboBoxRow(followed, name))
+        || (condition.kind == Condition_checked && !state.isChecked(followed, name));
+}
+
+bool isMetBy(const Condition& condition, EnumWindowKind followed, const HostEvent& event)
+{
+    if (condition.kind != event.kind)
+        return false;
+    const QString first = condition.parameter(0);
+    const bool inFollowed = followed == WindowKindCount || event.windows.contains(followed);
+    switch (condition.kind) {
+    case Condition_mouseEvent:
+        return event.parameters == condition.parameters.mid(0, 2);
+    case Condition_popup:
+        return first == QLatin1String("*") || event.parameters.value(0) == first;
+    case Condition_list:
+        return inFollowed && (first == QLatin1String("-1") || event.parameters.value(0) == first);
+    case Condition_action:
+        return event.parameters.value(0) == first;
+    case Condition_pressed:
+        return inFollowed && event.parameters == condition.parameters.mid(0, 2);
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,17 @@
+#include "demo/hint.h"
+
+#include "editor/translationexpression.h"
+
+#include <QCoreApplication>
+
+QString hintText(const QString& hint, const QString& context)
+{
+    TutorialEditor::TranslationExpression expression;
+    if (!TutorialEditor::parseTranslationExpression(hint, &expression))
+        return hint;
+    const QString& where = expression.context.isEmpty() ? context : expression.context;
+    return QCoreApplication::translate(where.toUtf8().constData(),
+        expression.sourceText.toUtf8().constData(),
+        expression.disambiguation.isEmpty() ? nullptr
+                                            : expression.disambiguation.toUtf8().constData());
+}

@@ -1,0 +1,203 @@
+#include "demo/mainwindow.h"
+#include "demo/tutorialsession.h"
+#include "demo/windowregistry.h"
+#ifdef DEMO_AUTOPLAY
+#include "demo/autoplayer.h"
+#endif
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QLocale>
+#include <QTextStream>
+#include <QTranslator>
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+
+struct Arguments {
+    QString language;
+    QString tutorial;
+    QString scenario;
+    QString screenshots;
+    bool autoplay = false;
+};
+
+int complain(const QString& text, int exitCode)
+{
+    QTextStream(stderr) << "tutorial-demo: " << text << '\n';
+    return exitCode;
+}
+
+// The path of a scenario that is given as a file or by the name of one that
+// the program carries; empty when there is none.
+QString scenarioPath(const QString& nameOrPath)
+{
+    const QString carried = QStringLiteral(":/scenarios/%1.js").arg(nameOrPath);
+    for (const QString& path : {nameOrPath, carried}) {
+        if (QFileInfo(path).isFile())
+            return path;
+    }
+    return {};
+}
+
+// Fills in the arguments. An exit code when the program is to end at once.
+std::optional<int> parse(const QStringList& commandLine, Arguments* arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("A small map editor that plays tutorials through the program “tutorial”."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption language(QStringLiteral("language"),
+        QStringLiteral("Language of the editor and the hints: en or de."), QStringLiteral("L"),
+        QLocale::system().language() == QLocale::German ? QStringLiteral("de")
+                                                        : QStringLiteral("en"));
+    const QCommandLineOption tutorial(QStringLiteral("tutorial"),
+        QStringLiteral("The tutorial's executable, if not the one beside this program."),
+        QStringLiteral("PROGRAM"));
+    const QCommandLineOption play(QStringLiteral("play"),
+        QStringLiteral("Play this scenario: a file, or “first-steps” or “all-conditions”."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption autoplay(QStringLiteral("autoplay"),
+        QStringLiteral("Play this scenario and the learner too, then end."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
+        QStringLiteral("With --autoplay: keep a picture of every step there."),
+        QStringLiteral("DIR"));
+    parser.addOptions({language, tutorial, play, autoplay, screenshots});
+
+    if (!parser.parse(commandLine))
+        return complain(parser.errorText(), kWrongUsage);
+    if (parser.isSet(help)) {
+        QTextStream(stdout) << parser.helpText();
+        return 0;
+    }
+    if (!parser.positionalArguments().isEmpty())
+        return complain(
+            QStringLiteral("unexpected argument “%1”").arg(parser.positionalArguments().first()),
+            kWrongUsage);
+    arguments->language = parser.value(language);
+    if (arguments->language != QLatin1String("en") && arguments->language != QLatin1String("de"))
+        return complain(
+            QStringLiteral("there is no language “%1”").arg(arguments->language), kWrongUsage);
+    if (parser.isSet(play) && parser.isSet(autoplay))
+        return complain(QStringLiteral("--play and --autoplay exclude each other"), kWrongUsage);
+    if (parser.isSet(screenshots) && !parser.isSet(autoplay))
+        return complain(QStringLiteral("--screenshots needs --autoplay"), kWrongUsage);
+
+    arguments->tutorial = parser.value(tutorial);
+    arguments->screenshots = parser.value(screenshots);
+    arguments->autoplay = parser.isSet(autoplay);
+    if (!parser.isSet(play) && !arguments->autoplay)
+        return {};
+    const QString scenario = parser.value(arguments->autoplay ? autoplay : play);
+    arguments->scenario = scenarioPath(scenario);
+    if (arguments->scenario.isEmpty())
+        return complain(QStringLiteral("there is no scenario “%1”").arg(scenario), kWrongUsage);
+    return {};
+}
+
+// On a Wayland session with an X server at hand, the X server is chosen: what
+// guides through windows must know and set screen positions.
+void preferX11()
+{
+    const bool wayland =
+        qgetenv("XDG_SESSION_TYPE") == "wayland" || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (wayland && !qEnvironmentVariableIsEmpty("DISPLAY")
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+// One look on every desktop, with a font of fixed size: the scenarios point
+// into the windows by pixels.
+void setLook(QApplication& application)
+{
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(13);
+    QApplication::setFont(font);
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(0xf4, 0xf5, 0xf7));
+    palette.setColor(QPalette::Button, QColor(0xf4, 0xf5, 0xf7));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf4, 0xf5, 0xf7));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Active, role, QColor(0x24, 0x2e, 0x3b));
+    palette.setColor(QPalette::Highlight, QColor(0x2d, 0x7d, 0xd2));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+    application.setStyleSheet(QStringLiteral(
+        "QMenuBar, QToolBar, QStatusBar { background: #e9ecf1; }"
+        "QToolBar { border: none; border-bottom: 1px solid #cfd5de; padding: 3px; spacing: 2px; }"
+        "QListWidget, QTreeWidget { border: 1px solid #cfd5de; border-radius: 4px; }"
+        "#listBox2::item, #entries::item, #commands::item { height: 23px; }"
+        "#qt_msgbox_label { min-width: 340px; min-height: 32px; }"
+        "QMessageBox QPushButton { min-width: 84px; min-height: 18px; }"
+        "#mapArea { border: 1px solid #cfd5de; background: #5b6674; }"));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList commandLine;
+    for (int i = 0; i < argc; ++i)
+        commandLine << QString::fromLocal8Bit(argv[i]);
+    Arguments arguments;
+    if (const auto exitCode = parse(commandLine, &arguments))
+        return *exitCode;
+
+    preferX11();
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("tutorial-demo"));
+    setLook(application);
+    QTranslator translator;
+    if (translator.load(QStringLiteral(":/translations/tutorial-demo_%1").arg(arguments.language)))
+        QCoreApplication::installTranslator(&translator);
+    const QString program = arguments.tutorial.isEmpty()
+        ? QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial")
+        : arguments.tutorial;
+
+    WindowRegistry registry;
+    MainWindow window(registry);
+    TutorialSession session(program, registry);
+    QObject::connect(
+        &session, &TutorialSession::presetDataRequested, &window, [&](const QString& name) {
+            if (!window.loadPreset(name))
+                window.showNotice(MainWindow::tr("There is no data “%1”.").arg(name));
+        });
+    for (const auto text : {&TutorialSession::notice, &TutorialSession::failed}) {
+        QObject::connect(&session, text, &window, [&](const QString& line) {
+            complain(line, 0);
+            window.showNotice(line);
+        });
+    }
+    QObject::connect(&session, &TutorialSession::finished, &window,
+        [&] { window.showNotice(MainWindow::tr("You have finished the tutorial.")); });
+    QObject::connect(&window, &MainWindow::tutorialRequested, &session,
+        [&](const QString& scenario) { session.play(scenarioPath(scenario)); });
+    QObject::connect(&window, &MainWindow::tutorialStopRequested, &session, &TutorialSession::stop);
+    window.show();
+
+    if (arguments.autoplay) {
+#ifdef DEMO_AUTOPLAY
+        if (QGuiApplication::platformName() != QLatin1String("xcb"))
+            return complain(QStringLiteral("--autoplay needs an X server; the platform here is %1")
+                                .arg(QGuiApplication::platformName()),
+                kFailed);
+        Autoplayer autoplayer(session, arguments.screenshots);
+        if (!autoplayer.start(arguments.scenario))
+            return kFailed;
+        return QApplication::exec();
+#else
+        return complain(
+            QStringLiteral("--autoplay needs X11's test extension, which this build lacks"),
+            kFailed);
+#endif
+    }
+    if (!arguments.scenario.isEmpty())
+        session.play(arguments.scenario);
+    return QApplication::exec();
+}

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "demo/dialogs.h"
+#include "demo/mapview.h"
+#include "demo/project.h"
+#include "tutorial/vocabulary.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QTreeWidget>
+#include <QUndoStack>
+
+class WindowRegistry;
+
+// The small map editor that the tutorials explain. Its actions carry their
+// names of the host-action list as object names.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    // registry: gets to know every window; outlives this one.
+    explicit MainWindow(WindowRegistry& registry);
+
+    // Loads the data of this name; false when there is none.
+    bool loadPreset(const QString& name);
+    // A line for the learner and the author in the status bar.
+    void showNotice(const QString& text);
+
+signals:
+    // A scenario was chosen from the menu: its name, or a file's path.
+    void tutorialRequested(const QString& scenario);
+    void tutorialStopRequested();
+
+private:
+    template <typename Slot>
+    QAction* newAction(const char* name, const QString& text, Slot slot);
+    QAction* action(const char* name) const;
+    void makeActions();
+    void makeMenus();
+    void makeToolBar();
+    void makeCentre();
+    QWidget* newLeftPanel();
+    QWidget* newMapArea();
+    // An empty name is a separator.
+    QMenu* newMenu(const QList<const char*>& actionNames);
+
+    void setProject(const Project& project);
+    void showMap(int index);
+    // Shows the maps as they are now, and this one of them.
+    void updateTree(int current);
+    GameMap& map() { return mProject.maps[mMapIndex]; }
+    void setOptions(const OptionsDialog::Options& options);
+    void zoomTo(int percent);
+    void tellCell(const QPoint& cell);
+    void onDrawn(const QVector<Tile>& before);
+
+    // Opens the dialog as this kind of window; accepted is called with it.
+    template <typename Dialog, typename Accepted>
+    void open(Tutorial::EnumWindowKind kind, Dialog* dialog, Accepted accepted);
+    void openNewProject();
+    void openNewMap();
+    void openEditMap();
+    void openDeleteMap();
+    void openEvent(const QPoint& cell);
+    void deleteEvent();
+    void openDatabase();
+    void openOptions();
+    void openAbout();
+
+    WindowRegistry& mRegistry;
+    Project mProject;
+    int mMapIndex = 0;
+    int mZoom = 100;
+    OptionsDialog::Options mOptions;
+    QUndoStack mUndoStack;
+    QToolBar* mToolBar = nullptr;
+    QListWidget* mTileList = nullptr;
+    QListWidget* mEventList = nullptr;
+    QTreeWidget* mMapTree = nullptr;
+    MapView* mMapView;
+    QLabel* mCellLabel;
+};

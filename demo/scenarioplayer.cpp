@@ -1,0 +1,155 @@
+#include "demo/scenarioplayer.h"
+
+#include "tutorial/tutorialaction.h"
+
+using namespace Tutorial;
+
+namespace {
+
+// How long a window may take to open before the player says that it waits.
+constexpr int kPatienceMs = 2000;
+
+} // namespace
+
+ScenarioPlayer::ScenarioPlayer(const HostState& state, QObject* parent)
+    : QObject(parent), mState(state)
+{
+    mJudgeTimer.setSingleShot(true);
+    connect(&mJudgeTimer, &QTimer::timeout, this, &ScenarioPlayer::judge);
+    mWaitTimer.setSingleShot(true);
+    connect(&mWaitTimer, &QTimer::timeout, this, [this] {
+        mMet = true;
+        judge();
+    });
+    mPatienceTimer.setSingleShot(true);
+    mPatienceTimer.setInterval(kPatienceMs);
+    connect(&mPatienceTimer, &QTimer::timeout, this, [this] {
+        emit notice(tr("Step %1 waits for the window “%2”.")
+                        .arg(step().pathText(), TutorialAction::getWindowKindName(step().window)));
+    });
+}
+
+void ScenarioPlayer::start(const Scenario& scenario, int first)
+{
+    stop();
+    mScenario = scenario;
+    enter(first);
+}
+
+void ScenarioPlayer::stop()
+{
+    mCurrent = -1;
+    mHistory.clear();
+    mShown = false;
+    for (QTimer* timer : {&mJudgeTimer, &mWaitTimer, &mPatienceTimer})
+        timer->stop();
+}
+
+void ScenarioPlayer::onEvent(const HostEvent& event)
+{
+    if (!isPlaying() || !isMetBy(step().condition, step().window, event))
+        return;
+    mMet = true;
+    mJudgeTimer.start(0);
+}
+
+void ScenarioPlayer::onStateChanged()
+{
+    if (isPlaying())
+        mJudgeTimer.start(0);
+}
+
+void ScenarioPlayer::onAnswer(const QString& answer)
+{
+    if (!isPlaying() || !isShown())
+        return;
+    const bool isNext = answer == QLatin1String("next");
+    if (isNext ? !step().offersNext() : step().condition.kind != Condition_yesNo)
+        return;
+    if (!isNext)
+        mChosenLabel = step().condition.parameter(answer == QLatin1String("yes") ? 0 : 1);
+    mMet = true;
+    mJudgeTimer.start(0);
+}
+
+bool ScenarioPlayer::windowIsOpen(const Step& step) const
+{
+    return step.window == WindowKindCount
+        || mState.windowState(step.window) == QLatin1String("open");
+}
+
+void ScenarioPlayer::enter(int index)
+{
+    mMet = false;
+    mChosenLabel.clear();
+    mShown = false;
+    mWaitTimer.stop();
+    mPatienceTimer.stop();
+    if (index >= mScenario.steps.size()) {
+        stop();
+        emit finished();
+        return;
+    }
+    mCurrent = index;
+    if (!step().fault.isEmpty())
+        emit notice(tr("Step %1: %2").arg(step().pathText(), step().fault));
+    if (!step().presetData.isEmpty())
+        emit presetDataRequested(step().presetData);
+    mPatienceTimer.start();
+    mJudgeTimer.start(0);
+}
+
+void ScenarioPlayer::judge()
+{
+    if (mMet || isMet(step().condition, step().window, mState))
+        finishStep();
+    else if (isShown() && !windowIsOpen(step()))
+        goBack();
+    else if (!isShown() && windowIsOpen(step()))
+        show();
+}
+
+void ScenarioPlayer::show()
+{
+    mPatienceTimer.stop();
+    mShown = true;
+    if (step().condition.kind == Condition_wait)
+        mWaitTimer.start(qRound(step().condition.parameter(0).toDouble() * 1000));
+    if (isAboutNothing(step().condition, step().window, mState))
+        emit notice(tr("Step %1: nothing in the window is called “%2”.")
+                        .arg(step().pathText(), step().condition.parameter(0)));
+    emit stepShown(step());
+}
+
+void ScenarioPlayer::goBack()
+{
+    while (!mHistory.isEmpty() && !windowIsOpen(mScenario.steps.at(mHistory.last())))
+        mHistory.removeLast();
+    mShown = false;
+    mWaitTimer.stop();
+    mPatienceTimer.start();
+    if (mHistory.isEmpty())
+        return;
+    // Not entered anew: data that this step loads would undo the learner's work.
+    mCurrent = mHistory.takeLast();
+    mMet = false;
+    judge();
+}
+
+void ScenarioPlayer::finishStep()
+{
+    const int next = indexAfterStep();
+    mHistory << mCurrent;
+    emit stepDone(step());
+    enter(next);
+}
+
+int ScenarioPlayer::indexAfterStep()
+{
+    const int next = mCurrent + 1;
+    if (mChosenLabel.isEmpty())
+        return next;
+    if (!mScenario.labels.contains(mChosenLabel))
+        emit notice(tr("Step %1: there is no label “%2”.").arg(step().pathText(), mChosenLabel));
+    return mScenario.labels.value(mChosenLabel, next);
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "demo/condition.h"
+#include "demo/scenario.h"
+
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+
+// Plays a scenario: one step after the other, each until its condition holds.
+//
+// A step is shown when the window that it follows is open. When that window
+// goes before the condition holds, because the learner closed a dialog too
+// early, the player returns to the last step whose window is still there, so
+// that the learner is led into the dialog again.
+//
+// What the host reports is judged on the next turn of the event loop, never
+// inside the call: a report may come from the middle of a dialog's closing.
+class ScenarioPlayer : public QObject {
+    Q_OBJECT
+
+public:
+    // state: the host as it is; outlives the player.
+    explicit ScenarioPlayer(const HostState& state, QObject* parent = nullptr);
+
+    bool isPlaying() const { return mCurrent >= 0; }
+    // The step that is played; only while playing.
+    const Step& step() const { return mScenario.steps.at(mCurrent); }
+    // The step that is played is also on show.
+    bool isShown() const { return mShown; }
+
+    // Begins at the step with this index.
+    void start(const Scenario& scenario, int first = 0);
+    // Ends playing; finished() is not emitted.
+    void stop();
+
+    // Reports from the host: something happened, the state may be another one,
+    // a button of the tutorial was pressed ("next", "yes" or "no").
+    void onEvent(const HostEvent& event);
+    void onStateChanged();
+    void onAnswer(const QString& answer);
+
+signals:
+    // Asked for before the step is shown.
+    void presetDataRequested(const QString& name);
+    void stepShown(const Step& step);
+    void stepDone(const Step& step);
+    void finished();
+    // Something that the author or the learner should know: a step that cannot
+    // be met, a window that the player waits for.
+    void notice(const QString& text);
+
+private:
+    bool windowIsOpen(const Step& step) const;
+    void enter(int index);
+    void judge();
+    void show();
+    void goBack();
+    void finishStep();
+    int indexAfterStep();
+
+    const HostState& mState;
+    Scenario mScenario;
+    int mCurrent = -1;
+    // Steps that led to the current one, oldest first.
+    QVector<int> mHistory;
+    bool mShown = false;
+    bool mMet = false;
+    // The label that the learner's answer chose; empty for the next step.
+    QString mChosenLabel;
+    QTimer mJudgeTimer;
+    QTimer mWaitTimer;
+    QTimer mPatienceTimer;
+};

@@ -1,0 +1,225 @@
+var scenario = [
+    {
+        "command": "presetData,meadow",
+        "comment": "starts from known data, without a target",
+        "condition": "wait,3",
+        "followWindow": "MainWindow",
+        "hint": qsTr("This tour meets every condition once. <b>Wait</b> three seconds."),
+        "icon": "wait"
+    },
+    {
+        "hint": qsTr("The map"),
+        "group": [
+        {
+            "comment": "both sides change",
+            "condition": "mouseEvent,Map,click",
+            "followWindow": "MainWindow",
+            "hint": qsTr("<b>Click</b> the map in the corner. Here the arrow points up and the hint stands on its left."),
+            "icon": "click",
+            "x": 1089,
+            "y": 108
+        },
+        {
+            "condition": "mouseEvent,Map,doubleClick",
+            "followWindow": "MainWindow",
+            "hint": qsTr("<b>Double-click</b> near the right edge."),
+            "icon": "doubleClick",
+            "x": 1121,
+            "y": 460
+        },
+        {
+            "condition": "popup,Map",
+            "followWindow": "MainWindow",
+            "hint": qsTr("Open the map’s <b>context menu</b> with a right click."),
+            "icon": "rightClick",
+            "x": 577,
+            "y": 268
+        },
+        {
+            "condition": "windowState,EventEditorMain,open",
+            "followWindow": "Popup",
+            "hint": qsTr("Choose <b>Edit Event</b>."),
+            "icon": "click",
+            "x": 60,
+            "y": 12
+        },
+        {
+            "hint": qsTr("The event"),
+            "group": [
+            {
+                "condition": "textLength,>=,3",
+                "followWindow": "EventEditorMain",
+                "hint": qsTr("Type a <b>name</b> of three letters."),
+                "icon": "keyboard",
+                "x": 249,
+                "y": 41
+            },
+            {
+                "condition": "comboBox,trigger,0",
+                "followWindow": "EventEditorMain",
+                "hint": qsTr("Choose the <b>first trigger</b>."),
+                "icon": "click",
+                "x": 260,
+                "y": 133
+            },
+            {
+                "condition": "spinBox,>=,5",
+                "followWindow": "EventEditorMain",
+                "hint": qsTr("Make it <b>fast</b>: five or more."),
+                "icon": "keyboard",
+                "x": 240,
+                "y": 171
+            },
+            {
+                "condition": "checked,walkAnime,1",
+                "followWindow": "EventEditorMain",
+                "hint": qsTr("Turn the <b>animation</b> on."),
+                "icon": "click",
+                "x": 162,
+                "y": 209
+            },
+            {
+                "condition": "windowState,EventEditorMain,ok",
+                "followWindow": "EventEditorMain",
+                "hint": qsTr("Press <b>OK</b>."),
+                "icon": "click",
+                "x": 221,
+                "y": 376
+            }
+]
+        }
+]
+    },
+    {
+        "hint": qsTr("The panel"),
+        "group": [
+        {
+            "condition": "list,5",
+            "followWindow": "MapEditLeftPanelItem",
+            "hint": qsTr("Choose the <b>sixth tile</b>."),
+            "icon": "click",
+            "x": 60,
+            "y": 176
+        },
+        {
+            "condition": "mouseEvent,listBox2,click",
+            "followWindow": "MapEditLeftPanelItem",
+            "hint": qsTr("Click an <b>event</b> in the list."),
+            "icon": "click",
+            "x": 60,
+            "y": 561
+        },
+        {
+            "condition": "popup,*",
+            "followWindow": "MapEditTreeBox",
+            "hint": qsTr("Right-click a <b>map</b> in the tree."),
+            "icon": "rightClick",
+            "x": 110,
+            "y": 393
+        },
+        {
+            "condition": "windowState,MessageBox,open",
+            "followWindow": "Popup",
+            "hint": qsTr("Choose <b>Delete Map</b>. Nothing is lost yet."),
+            "icon": "click",
+            "x": 60,
+            "y": 62
+        },
+        {
+            "condition": "pressed,0,1",
+            "followWindow": "MessageBox",
+            "hint": qsTr("Better press <b>Keep</b>."),
+            "icon": "click",
+            "x": 355,
+            "y": 67
+        }
+]
+    },
+    {
+        "hint": qsTr("The windows"),
+        "group": [
+        {
+            "condition": "action,Options,",
+            "followWindow": "MainWindow",
+            "hint": qsTr("Open the <b>options</b>. The arrow points up here."),
+            "icon": "click",
+            "x": 466,
+            "y": 40
+        },
+        {
+            "condition": "checked,grid,0",
+            "followWindow": "Options",
+            "hint": qsTr("Turn the <b>grid</b> off."),
+            "icon": "click",
+            "x": 150,
+            "y": 41
+        },
+        {
+            "condition": "windowState,Options,cancel",
+            "followWindow": "Options",
+            "hint": qsTr("And leave it as it was: <b>Cancel</b>."),
+            "icon": "click",
+            "x": 311,
+            "y": 162
+        },
+        {
+            "condition": "windowState,Popup,open",
+            "followWindow": "MainWindow",
+            "hint": qsTr("Open the <b>first menu</b>."),
+            "icon": "click",
+            "x": 20,
+            "y": 10
+        },
+        {
+            "condition": "action,New Project,",
+            "followWindow": "Popup",
+            "hint": qsTr("Choose <b>New Project</b>."),
+            "icon": "click",
+            "x": 60,
+            "y": 12
+        },
+        {
+            "condition": "wait,3",
+            "followWindow": "NewProject",
+            "hint": qsTr("This step hides its <b>arrow</b>. Wait again."),
+            "icon": "wait",
+            "option": 1,
+            "x": 249,
+            "y": 41
+        },
+        {
+            "condition": "windowState,NewProject,close",
+            "followWindow": "NewProject",
+            "hint": qsTr("<b>Close</b> the window."),
+            "icon": "click",
+            "x": 311,
+            "y": 238
+        }
+]
+    },
+    {
+        "condition": "click,",
+        "followWindow": "MainWindow",
+        "hint": qsTr("Press <b>Next</b>."),
+        "icon": "eye",
+        "label": "again",
+        "x": 705,
+        "y": 332
+    },
+    {
+        "condition": "yesNo,again,",
+        "followWindow": "MainWindow",
+        "hint": QT_TRANSLATE_NOOP("all-conditions", "Once more? <b>Yes</b> goes back by a step, <b>No</b> goes on."),
+        "icon": "eye",
+        "x": 705,
+        "y": 332
+    },
+    {
+        "condition": "click,",
+        "followWindow": "MainWindow",
+        "hint": qsTr("<b>That was all.</b> Press <b>Next</b> to end."),
+        "icon": "eye",
+        "x": 417,
+        "y": 524
+    }
+];

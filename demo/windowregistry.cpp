@@ -1,0 +1,131 @@
+#include "demo/windowregistry.h"
+
+#include <QDialog>
+#include <QEvent>
+
+using namespace Tutorial;
+
+void WindowRegistry::add(EnumWindowKind kind, QWidget* window)
+{
+    mKinds.insert(window, kind);
+    window->installEventFilter(this);
+    connect(window, &QObject::destroyed, this, [this, kind, window] {
+        onHidden(kind, window);
+        mKinds.remove(window);
+    });
+    if (auto* dialog = qobject_cast<QDialog*>(window)) {
+        connect(dialog, &QDialog::accepted, this,
+            [this, kind] { setResult(kind, QStringLiteral("ok")); });
+        connect(dialog, &QDialog::rejected, this,
+            [this, kind] { setResult(kind, QStringLiteral("cancel")); });
+    }
+    if (window->isVisible())
+        onShown(kind, window);
+}
+
+QWidget* WindowRegistry::window(EnumWindowKind kind) const
+{
+    return mOpen.value(kind);
+}
+
+QList<EnumWindowKind> WindowRegistry::windowsAround(const QWidget* widget) const
+{
+    QList<EnumWindowKind> kinds;
+    for (; widget; widget = widget->parentWidget()) {
+        const auto kind = mKinds.constFind(widget);
+        if (kind != mKinds.constEnd())
+            kinds << *kind;
+        if (widget->isWindow())
+            break;
+    }
+    return kinds;
+}
+
+QString WindowRegistry::state(EnumWindowKind kind) const
+{
+    return mOpen.contains(kind) ? QStringLiteral("open")
+                                : mResults.value(kind, QStringLiteral("close"));
+}
+
+QWidget* WindowRegistry::topWindow() const
+{
+    return mStack.isEmpty() ? nullptr : window(mStack.last());
+}
+
+bool WindowRegistry::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto kind = mKinds.constFind(watched);
+    if (kind == mKinds.constEnd())
+        return false;
+    switch (event->type()) {
+    case QEvent::Show:
+        onShown(*kind, static_cast<QWidget*>(watched));
+        break;
+    case QEvent::Hide:
+        // The window manager's minimising does not close a window.
+        if (!event->spontaneous())
+            onHidden(*kind, static_cast<QWidget*>(watched));
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        updatePositions();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void WindowRegistry::onShown(EnumWindowKind kind, QWidget* window)
+{
+    if (mOpen.value(kind) == window)
+        return;
+    mOpen.insert(kind, window);
+    if (window->isWindow()) {
+        mStack << kind;
+        emit pushed(kind);
+    }
+    updatePositions();
+    emit opened(kind, window);
+    emit changed();
+}
+
+void WindowRegistry::onHidden(EnumWindowKind kind, const QWidget* window)
+{
+    if (mOpen.value(kind) != window)
+        return;
+    mOpen.remove(kind);
+    mPositions.remove(kind);
+    mResults.insert(kind, QStringLiteral("close"));
+    const int index = mStack.lastIndexOf(kind);
+    if (index >= 0) {
+        // The link can only take the last entry off: the ones above this
+        // window are taken off with it and put back.
+        const QList<EnumWindowKind> above = mStack.mid(index + 1);
+        mStack.erase(mStack.begin() + index, mStack.end());
+        for (int i = 0; i <= above.size(); ++i)
+            emit popped();
+        for (EnumWindowKind other : above) {
+            mStack << other;
+            emit pushed(other);
+        }
+    }
+    emit changed();
+}
+
+void WindowRegistry::setResult(EnumWindowKind kind, const QString& result)
+{
+    mResults.insert(kind, result);
+    emit changed();
+}
+
+void WindowRegistry::updatePositions()
+{
+    for (auto open = mOpen.constBegin(); open != mOpen.constEnd(); ++open) {
+        const QPoint position = open.value()->mapToGlobal(QPoint());
+        if (mPositions.contains(open.key()) && mPositions.value(open.key()) == position)
+            continue;
+        mPositions.insert(open.key(), position);
+        emit moved(open.key(), position);
+    }
+}

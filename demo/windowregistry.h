@@ -1,0 +1,67 @@
+#pragma once
+
+#include "tutorial/vocabulary.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPoint>
+#include <QSize>
+#include <QWidget>
+
+// Knows which of the host's windows are open, in which order, and where they
+// stand. A window is any widget that was added under its kind: a dialog, a
+// menu, or a panel inside of the main window.
+class WindowRegistry : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    // From now on and until it is destroyed the widget is the window of this
+    // kind. A kind may have several widgets (every context menu is a Popup).
+    void add(Tutorial::EnumWindowKind kind, QWidget* window);
+
+    // The open window of the kind; null when there is none.
+    QWidget* window(Tutorial::EnumWindowKind kind) const;
+    // Kinds of the windows in which the widget is, the innermost first.
+    QList<Tutorial::EnumWindowKind> windowsAround(const QWidget* widget) const;
+    // "open", or how it was closed: see HostState::windowState().
+    QString state(Tutorial::EnumWindowKind kind) const;
+    // The top-level windows that are open, in the order of opening; panels are
+    // no windows of their own here.
+    const QList<Tutorial::EnumWindowKind>& stack() const { return mStack; }
+    // The window that was opened last; null when none is open.
+    QWidget* topWindow() const;
+    // Screen position of the client area of every open window and panel.
+    const QHash<Tutorial::EnumWindowKind, QPoint>& positions() const { return mPositions; }
+
+    // Forgets how windows were closed.
+    void forgetResults() { mResults.clear(); }
+
+signals:
+    // A window or panel was opened; opened() comes after all that state() and
+    // positions() tell about it.
+    void opened(Tutorial::EnumWindowKind kind, QWidget* window);
+    void pushed(Tutorial::EnumWindowKind kind);
+    // The last entry of the stack is gone.
+    void popped();
+    void moved(Tutorial::EnumWindowKind kind, const QPoint& position);
+    // The state of some window is another one.
+    void changed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void onShown(Tutorial::EnumWindowKind kind, QWidget* window);
+    void onHidden(Tutorial::EnumWindowKind kind, const QWidget* window);
+    void setResult(Tutorial::EnumWindowKind kind, const QString& result);
+    void updatePositions();
+
+    QHash<const QObject*, Tutorial::EnumWindowKind> mKinds;
+    QHash<Tutorial::EnumWindowKind, QWidget*> mOpen;
+    QHash<Tutorial::EnumWindowKind, QString> mResults;
+    QHash<Tutorial::EnumWindowKind, QPoint> mPositions;
+    QList<Tutorial::EnumWindowKind> mStack;
+};
