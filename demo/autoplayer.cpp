@@ -16,6 +16,8 @@ namespace {
 
 constexpr int kTickMs = 50;
 constexpr int kDeadlineMs = 20000;
+// A question's loop is gone through twice: first with Yes, then with No.
+constexpr int kMostRounds = 2;
 // The hint is laid out at a tick of the tutorial's, and painted after it.
 constexpr int kPaintMs = 400;
 // The arrow rests for the first half of its bounce, which begins with the step.
@@ -82,8 +84,13 @@ bool Autoplayer::start(const QString& path)
     return true;
 }
 
-void Autoplayer::onStepShown(const Step&)
+void Autoplayer::onStepShown(const Step& step)
 {
+    if (++mShown[step.pathText()] > kMostRounds) {
+        fail(QStringLiteral("%1 %2 comes again and again")
+                 .arg(step.pathText(), step.condition.text));
+        return;
+    }
     mShownTime.start();
     mToBeDone = true;
 }
@@ -199,8 +206,7 @@ void Autoplayer::clickAnswer(const Step& step)
     // The two overlap in the middle: each is clicked at its outer edge.
     std::sort(buttons.begin(), buttons.end(),
         [](const QRect& a, const QRect& b) { return a.x() < b.x(); });
-    const bool no = expected == 2 && mAnswered.contains(step.pathText());
-    mAnswered << step.pathText();
+    const bool no = expected == 2 && mShown.value(step.pathText()) > 1;
     const QRect button = no ? buttons.last() : buttons.first();
     const int fromEdge = kButtonSize.width() / 4;
     mInput.click({no ? button.right() - fromEdge : button.left() + fromEdge, button.center().y()});

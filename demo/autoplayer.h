@@ -3,9 +3,9 @@
 #include "demo/xinput.h"
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QObject>
 #include <QPoint>
-#include <QSet>
 #include <QString>
 #include <QTimer>
 
@@ -53,6 +53,6 @@ private:
     // The step is shown and has not been acted on yet.
     bool mToBeDone = false;
     int mPictures = 0;
-    // Steps that were answered with Yes.
-    QSet<QString> mAnswered;
+    // How often each step was shown.
+    QHash<QString, int> mShown;
 };

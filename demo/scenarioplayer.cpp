@@ -6,6 +6,9 @@ using namespace Tutorial;
 
 namespace {
 
+// A window that has just been opened needs a moment to get its place, and to
+// be on the screen before the arrow is raised above it.
+constexpr int kSettleMs = 50;
 // How long a window may take to open before the player says that it waits.
 constexpr int kPatienceMs = 2000;
 
@@ -55,8 +58,8 @@ void ScenarioPlayer::onEvent(const HostEvent& event)
 
 void ScenarioPlayer::onStateChanged()
 {
-    if (isPlaying())
-        mJudgeTimer.start(0);
+    if (isPlaying() && !mJudgeTimer.isActive())
+        mJudgeTimer.start(kSettleMs);
 }
 
 void ScenarioPlayer::onAnswer(const QString& answer)
@@ -96,7 +99,7 @@ void ScenarioPlayer::enter(int index)
     if (!step().presetData.isEmpty())
         emit presetDataRequested(step().presetData);
     mPatienceTimer.start();
-    mJudgeTimer.start(0);
+    mJudgeTimer.start(kSettleMs);
 }
 
 void ScenarioPlayer::judge()

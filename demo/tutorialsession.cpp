@@ -55,12 +55,20 @@ TutorialSession::TutorialSession(const QString& program, WindowRegistry& registr
                 sendUnlessIdle(xyMessage(sentPointOf(mPlayer.step())));
         });
 
+    connect(&registry, &WindowRegistry::minimized, this, [this](EnumWindowKind kind, bool on) {
+        if (kind == Window_MainWindow)
+            setMinimized(on);
+    });
+
     connect(&mObserver, &HostObserver::happened, &mPlayer, &ScenarioPlayer::onEvent);
     connect(&mObserver, &HostObserver::changed, &mPlayer, &ScenarioPlayer::onStateChanged);
 
     connect(&mPlayer, &ScenarioPlayer::presetDataRequested, this,
         &TutorialSession::presetDataRequested);
-    connect(&mPlayer, &ScenarioPlayer::stepShown, this, &TutorialSession::showStep);
+    connect(&mPlayer, &ScenarioPlayer::stepShown, this, [this](const Step& step) {
+        sendStep(step);
+        emit stepShown(step);
+    });
     connect(&mPlayer, &ScenarioPlayer::stepDone, this, &TutorialSession::stepDone);
     connect(&mPlayer, &ScenarioPlayer::notice, this, &TutorialSession::notice);
     connect(&mPlayer, &ScenarioPlayer::finished, this, [this] {
@@ -160,26 +168,31 @@ void TutorialSession::onApplicationStateChanged(Qt::ApplicationState state)
         activateTopWindow();
 }
 
-void TutorialSession::showStep(const Step& step)
+void TutorialSession::setMinimized(bool on)
 {
+    if (mMinimized == on)
+        return;
+    mMinimized = on;
+    if (on) {
+        // "hide" alone would not do: with the host out of the way the window
+        // manager activates one of the tutorial's windows.
+        sendUnlessIdle({QStringLiteral("state"), QStringLiteral("hide")});
+        sendUnlessIdle({QStringLiteral("stop")});
+        mStarted = false;
+    } else if (mPlayer.isPlaying() && mPlayer.isShown()) {
+        sendStep(mPlayer.step());
+    }
+}
+
+void TutorialSession::sendStep(const Step& step)
+{
+    if (mMinimized)
+        return;
     // In one packet, so that the tutorial has a text and a target from the
     // first picture that it paints.
     QVector<QStringList> messages;
-    if (!mStarted) {
-        const QWidget* top = mRegistry.topWindow();
-        const QScreen* screen = top ? top->screen() : QGuiApplication::primaryScreen();
-        const QRect area = screen->availableGeometry();
-        messages << QStringList{QStringLiteral("start"), QString::number(area.x()),
-            QString::number(area.y()), QString::number(area.width()),
-            QString::number(area.height())};
-        messages << QStringList{QStringLiteral("state"), QStringLiteral("show")};
-        for (EnumWindowKind kind : mRegistry.stack())
-            messages << pushMessage(kind);
-        const auto& positions = mRegistry.positions();
-        for (auto it = positions.begin(); it != positions.end(); ++it)
-            messages << positionMessage(it.key(), it.value());
-        mReclaimTimer.start();
-    }
+    if (!mStarted)
+        messages = startMessages();
     mStarted = true;
     const QPoint offset = step.point.value_or(QPoint(kNoCoordinate, kNoCoordinate));
     messages << QStringList{QStringLiteral("indicator"), QStringLiteral("update"),
@@ -188,7 +201,25 @@ void TutorialSession::showStep(const Step& step)
         QString::number(step.icon)};
     messages << xyMessage(sentPointOf(step));
     mLink.send(messages);
-    emit stepShown(step);
+}
+
+QVector<QStringList> TutorialSession::startMessages()
+{
+    const QWidget* top = mRegistry.topWindow();
+    const QScreen* screen = top ? top->screen() : QGuiApplication::primaryScreen();
+    const QRect area = screen->availableGeometry();
+    QVector<QStringList> messages{
+        {QStringLiteral("start"), QString::number(area.x()), QString::number(area.y()),
+            QString::number(area.width()), QString::number(area.height())},
+        {QStringLiteral("state"), QStringLiteral("show")}};
+    for (EnumWindowKind kind : mRegistry.stack())
+        messages << pushMessage(kind);
+    const auto& positions = mRegistry.positions();
+    for (auto it = positions.begin(); it != positions.end(); ++it)
+        messages << positionMessage(it.key(), it.value());
+    // The first start takes the activation.
+    mReclaimTimer.start();
+    return messages;
 }
 
 void TutorialSession::sendUnlessIdle(const QStringList& message)

@@ -47,7 +47,11 @@ signals:
 private:
     void onReceived(const QStringList& fields);
     void onApplicationStateChanged(Qt::ApplicationState state);
-    void showStep(const Step& step);
+    // Shows or hides the tutorial with the main window.
+    void setMinimized(bool on);
+    void sendStep(const Step& step);
+    // What begins a tutorial: the area and the windows as they are.
+    QVector<QStringList> startMessages();
     void sendUnlessIdle(const QStringList& message);
     void activateTopWindow();
 
@@ -60,6 +64,7 @@ private:
     QString mContext;
     // "start" was sent, and no "stop" since.
     bool mStarted = false;
+    bool mMinimized = false;
     QTimer mHideTimer;
     // While it runs, an activation that the tutorial's windows took is taken
     // back.

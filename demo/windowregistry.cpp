@@ -70,6 +70,9 @@ bool WindowRegistry::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Resize:
         updatePositions();
         break;
+    case QEvent::WindowStateChange:
+        emit minimized(*kind, static_cast<QWidget*>(watched)->isMinimized());
+        break;
     default:
         break;
     }

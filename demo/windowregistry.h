@@ -49,6 +49,8 @@ signals:
     void moved(Tutorial::EnumWindowKind kind, const QPoint& position);
     // The state of some window is another one.
     void changed();
+    // The window was minimised, or is back.
+    void minimized(Tutorial::EnumWindowKind kind, bool on);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "demo/condition.h"
+
+#include <QHash>
+
+// A host whose state is what the test says.
+struct FakeState : HostState {
+    QString windowState(Tutorial::EnumWindowKind window) const override
+    {
+        return states.value(window, QStringLiteral("close"));
+    }
+    std::optional<int> textLength(Tutorial::EnumWindowKind) const override { return length; }
+    std::optional<int> spinBoxValue(Tutorial::EnumWindowKind) const override { return value; }
+    std::optional<int> comboBoxRow(Tutorial::EnumWindowKind, const QString& name) const override
+    {
+        return name == QLatin1String("trigger") ? row : std::nullopt;
+    }
+    std::optional<bool> isChecked(Tutorial::EnumWindowKind, const QString& name) const override
+    {
+        return name == QLatin1String("walkAnime") ? checked : std::nullopt;
+    }
+
+    QHash<Tutorial::EnumWindowKind, QString> states;
+    std::optional<int> length;
+    std::optional<int> value;
+    std::optional<int> row;
+    std::optional<bool> checked;
+};
