@@ -93,6 +93,8 @@ QString Condition::fault() const
 
 bool isMet(const Condition& condition, EnumWindowKind followed, const HostState& state)
 {
+    if (!parametersAreSound(condition))
+        return false;
     const QString first = condition.parameter(0);
     const QString second = condition.parameter(1);
     switch (condition.kind) {
@@ -122,7 +124,7 @@ bool isAboutNothing(const Condition& condition, EnumWindowKind followed, const H
 
 bool isMetBy(const Condition& condition, EnumWindowKind followed, const HostEvent& event)
 {
-    if (condition.kind != event.kind)
+    if (condition.kind != event.kind || !parametersAreSound(condition))
         return false;
     const QString first = condition.parameter(0);
     const bool inFollowed = followed == WindowKindCount || event.windows.contains(followed);

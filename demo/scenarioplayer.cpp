@@ -116,7 +116,7 @@ void ScenarioPlayer::show()
 {
     mPatienceTimer.stop();
     mShown = true;
-    if (step().condition.kind == Condition_wait)
+    if (step().condition.kind == Condition_wait && step().condition.fault().isEmpty())
         mWaitTimer.start(qRound(step().condition.parameter(0).toDouble() * 1000));
     if (isAboutNothing(step().condition, step().window, mState))
         emit notice(tr("Step %1: nothing in the window is called “%2”.")

@@ -108,7 +108,7 @@ bool TutorialSession::play(const QString& path)
         return false;
     }
     mScenario = Scenario::fromJson(steps);
-    mContext = QFileInfo(path).baseName();
+    mContext = QFileInfo(path).completeBaseName();
     mRegistry.forgetResults();
     if (mLink.isConnected())
         mPlayer.start(mScenario);

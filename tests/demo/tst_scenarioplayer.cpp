@@ -237,11 +237,15 @@ void tst_ScenarioPlayer::goesBackWhenTheWindowIsGone()
 
 void tst_ScenarioPlayer::saysWhatCannotBeMet()
 {
-    play(R"([{"condition": "fly,high"}, {"condition": "comboBox,nobody,1"}])");
-    QVERIFY(did("notice; [0]"));
-    QVERIFY(mPlayer->step().offersNext());
-    answer("next");
-    QVERIFY(did("notice; [1]"));
+    play(R"([{"condition": "fly,high"}, {"condition": "windowState,Nowhere,close"},
+            {"condition": "wait,-1"}, {"condition": "comboBox,nobody,1"}])");
+    // A condition with wrong parameters used to be met at once.
+    for (const char* shown : {"notice; [0]", "notice; [1]", "notice; [2]"}) {
+        QVERIFY(did(shown));
+        QVERIFY(mPlayer->step().offersNext());
+        answer("next");
+    }
+    QVERIFY(did("notice; [3]"));
 }
 
 void tst_ScenarioPlayer::startsInTheMiddle()
