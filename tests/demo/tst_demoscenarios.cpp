@@ -2,6 +2,7 @@
 #include "demo/project.h"
 #include "demo/scenario.h"
 #include "editor/scenarioreader.h"
+#include "editor/scenariowriter.h"
 
 #include <QTranslator>
 #include <QtTest>
@@ -19,17 +20,23 @@ private slots:
     void hints();
 
 private:
-    static Scenario read(const QString& name);
+    static QString path(const QString& name);
+    static QJsonArray readJson(const QString& name);
+    static Scenario read(const QString& name) { return Scenario::fromJson(readJson(name)); }
 };
 
-Scenario tst_DemoScenarios::read(const QString& name)
+QString tst_DemoScenarios::path(const QString& name)
+{
+    return QStringLiteral(":/scenarios/%1.js").arg(name);
+}
+
+QJsonArray tst_DemoScenarios::readJson(const QString& name)
 {
     QJsonArray steps;
     QStringList errors;
-    if (!TutorialEditor::readScenarioFile(
-            QStringLiteral(":/scenarios/%1.js").arg(name), &steps, &errors))
+    if (!TutorialEditor::readScenarioFile(path(name), &steps, &errors))
         qFatal("%s", qPrintable(errors.join(QLatin1Char('\n'))));
-    return Scenario::fromJson(steps);
+    return steps;
 }
 
 void tst_DemoScenarios::sound_data()
@@ -42,6 +49,12 @@ void tst_DemoScenarios::sound_data()
 void tst_DemoScenarios::sound()
 {
     QFETCH(QString, name);
+    // An author who saves it unchanged changes nothing.
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()),
+        TutorialEditor::scenarioFileText(TutorialEditor::scenarioJson(readJson(name))));
+
     const Scenario scenario = read(name);
     QVERIFY(scenario.steps.size() > 10);
     QTranslator german;
