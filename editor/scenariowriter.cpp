@@ -13,6 +13,7 @@ using namespace TutorialEditor;
 
 namespace {
 
+const QString kGroup = QStringLiteral("group");
 const QString kUnit = QStringLiteral("    ");
 
 void appendQuoted(QString* out, const QString& text)
@@ -65,96 +66,111 @@ void appendValue(QString* out, const QString& key, const QJsonValue& value)
     }
 }
 
-void writeSteps(QString* out, int depth, const QJsonArray& steps)
-{
-    StepListWriter writer(out, StepListForm::File, depth);
-    for (const QJsonValue& value : steps) {
-        const QJsonObject step = value.toObject();
-        if (step.contains(QStringLiteral("group"))) {
-            writer.beginGroup(step);
-            writeSteps(out, depth + 1, step[QStringLiteral("group")].toArray());
-            writer.endGroup();
-        } else if (!step.isEmpty()) {
-            writer.step(step);
+class Writer {
+public:
+    explicit Writer(StepListForm form) : mIsFile(form == StepListForm::File) { }
+
+    void list(const QJsonArray& steps, int depth)
+    {
+        mOut += QLatin1Char('[');
+        endLine();
+        bool isFirst = true;
+        for (const QJsonValue& value : steps) {
+            const QJsonObject step = value.toObject();
+            if (step.isEmpty())
+                continue;
+            if (!isFirst)
+                mOut += QLatin1String(",\n");
+            isFirst = false;
+            if (step.contains(kGroup))
+                group(step, depth);
+            else
+                plainStep(step, depth);
         }
+        endLine();
+        // Not indented, in a nested group neither.
+        mOut += QLatin1Char(']');
     }
-    writer.end();
-}
 
-} // namespace
+    const QString& text() const { return mOut; }
 
-StepListWriter::StepListWriter(QString* out, StepListForm form, int depth)
-    : mOut(*out), mForm(form),
-      mIndentation(form == StepListForm::File ? kUnit.repeated(depth + 1) : QString()),
-      mLineEnd(form == StepListForm::File ? QStringLiteral("\n") : QString())
-{
-    mOut += QLatin1Char('[') + mLineEnd;
-}
-
-void StepListWriter::step(const QJsonObject& step)
-{
-    separate();
-    if (mForm != StepListForm::File) {
-        mOut += stepJson(step);
-        return;
+private:
+    void endLine()
+    {
+        if (mIsFile)
+            mOut += QLatin1Char('\n');
     }
-    mOut += mIndentation + QLatin1String("{\n");
-    for (auto it = step.begin(); it != step.end(); ++it) {
-        if (it != step.begin())
-            mOut += QLatin1String(",\n");
-        const QString key = it.key();
-        mOut += mIndentation;
-        mOut += kUnit;
-        appendKey(&mOut, key);
-        mOut += QLatin1String(": ");
-        appendValue(&mOut, key, it.value());
-    }
-    mOut += QLatin1Char('\n') + mIndentation + QLatin1Char('}');
-}
 
-void StepListWriter::beginGroup(const QJsonObject& group)
-{
-    separate();
-    const QString label = group[QStringLiteral("label")].toString();
-    const QString hint = group[QStringLiteral("hint")].toString();
+    void indent(int depth)
+    {
+        for (int i = 0; mIsFile && i <= depth; ++i)
+            mOut += kUnit;
+    }
+
+    void plainStep(const QJsonObject& step, int depth)
+    {
+        if (!mIsFile) {
+            mOut += stepJson(step);
+            return;
+        }
+        indent(depth);
+        mOut += QLatin1String("{\n");
+        for (auto it = step.begin(); it != step.end(); ++it) {
+            if (it != step.begin())
+                mOut += QLatin1String(",\n");
+            const QString key = it.key();
+            indent(depth + 1);
+            appendKey(&mOut, key);
+            mOut += QLatin1String(": ");
+            appendValue(&mOut, key, it.value());
+        }
+        mOut += QLatin1Char('\n');
+        indent(depth);
+        mOut += QLatin1Char('}');
+    }
+
+    void group(const QJsonObject& step, int depth)
+    {
+        const QString hint = step[QStringLiteral("hint")].toString();
+        const QString label = step[QStringLiteral("label")].toString();
+        indent(depth);
+        mOut += QLatin1Char('{');
+        endLine();
+        beginGroupKey("hint", depth);
+        if (mIsFile)
+            appendCommentHint(&mOut, hint);
+        else
+            mOut += QLatin1Char('"') + hint + QLatin1Char('"');
+        mOut += QLatin1Char(',');
+        endLine();
+        if (!label.isEmpty()) {
+            beginGroupKey("label", depth);
+            appendQuoted(&mOut, label);
+            mOut += QLatin1Char(',');
+            endLine();
+        }
+        beginGroupKey("group", depth);
+        list(step[kGroup].toArray(), depth + 1);
+        endLine();
+        indent(depth);
+        mOut += QLatin1Char('}');
+    }
 
     // In the file each key begins a line.
-    const QString keyBegin =
-        mForm == StepListForm::File ? mIndentation + kUnit : QStringLiteral(" ");
-    mOut += mIndentation + QLatin1Char('{') + mLineEnd;
-    mOut += keyBegin + QLatin1String("\"hint\": ");
-    if (mForm == StepListForm::File)
-        appendCommentHint(&mOut, hint);
-    else if (mForm == StepListForm::Json)
-        appendQuoted(&mOut, hint);
-    else
-        mOut += QLatin1Char('"') + hint + QLatin1Char('"');
-    mOut += QLatin1Char(',') + mLineEnd;
-    if (!label.isEmpty()) {
-        mOut += keyBegin + QLatin1String("\"label\": ");
-        appendQuoted(&mOut, label);
-        mOut += QLatin1Char(',') + mLineEnd;
+    void beginGroupKey(const char* key, int depth)
+    {
+        if (mIsFile)
+            indent(depth + 1);
+        else
+            mOut += QLatin1Char(' ');
+        mOut += QStringLiteral("\"%1\": ").arg(QLatin1String(key));
     }
-    mOut += keyBegin + QLatin1String("\"group\": ");
-}
 
-void StepListWriter::endGroup()
-{
-    mOut += mLineEnd + mIndentation + QLatin1Char('}');
-}
+    const bool mIsFile;
+    QString mOut;
+};
 
-void StepListWriter::end()
-{
-    // Not indented, in a nested group neither.
-    mOut += mLineEnd + QLatin1Char(']');
-}
-
-void StepListWriter::separate()
-{
-    if (!mIsEmpty)
-        mOut += QLatin1String(",\n");
-    mIsEmpty = false;
-}
+} // namespace
 
 void TutorialEditor::escapeCommentHint(QString& value)
 {
@@ -176,11 +192,11 @@ void TutorialEditor::escapeCommentHint(QString& value)
         value.remove(comma, 1);
 }
 
-QString TutorialEditor::scenarioJson(const QJsonArray& steps)
+QString TutorialEditor::scenarioJson(const QJsonArray& steps, StepListForm form, int depth)
 {
-    QString json;
-    writeSteps(&json, 0, steps);
-    return json;
+    Writer writer(form);
+    writer.list(steps, depth);
+    return writer.text();
 }
 
 QString TutorialEditor::scenarioFileText(const QString& json)

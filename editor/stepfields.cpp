@@ -97,13 +97,6 @@ private:
     StepFields mFields;
 };
 
-int coordinate(const QString& text)
-{
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber ? number : Tutorial::kNoCoordinate;
-}
-
 // A text that was emptied takes its key away.
 void setText(QJsonObject* step, const QString& key, const QString& text)
 {
@@ -245,6 +238,13 @@ RebuiltStep TutorialEditor::rebuildStep(const QJsonObject& step, bool isGroup,
         window = step.value(kFollowWindow).toString(); // a window that the form cannot show
     return {rebuilt, displayText(translation, now.x, now.y, window), coordinate(now.x),
         coordinate(now.y), indicatorFlags(now)};
+}
+
+int TutorialEditor::coordinate(const QString& text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber ? number : Tutorial::kNoCoordinate;
 }
 
 int TutorialEditor::indicatorFlags(const StepFields& fields)

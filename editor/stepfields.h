@@ -73,6 +73,9 @@ StepFields loadStep(const QJsonObject& step, bool isGroup);
 RebuiltStep rebuildStep(const QJsonObject& step, bool isGroup, const StepFields& before,
     const StepFields& now, const QString& translation);
 
+// The number in a coordinate's field; Tutorial::kNoCoordinate for any other text.
+int coordinate(const QString& text);
+
 // The flags of the indicator for what the form holds.
 int indicatorFlags(const StepFields& fields);
 

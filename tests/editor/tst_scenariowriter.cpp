@@ -1,5 +1,6 @@
 #include "editor/scenarioreader.h"
 #include "editor/scenariowriter.h"
+#include "editor/stepjson.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -16,6 +17,7 @@ private slots:
     void workedExample();
     void values_data();
     void values();
+    void compactTextIsQts();
     void lists();
     void randomTrees();
     void files();
@@ -177,6 +179,21 @@ void tst_ScenarioWriter::values()
         QLatin1String("[\n    {\n        ") + line + QLatin1String("\n    }\n]"));
 }
 
+void tst_ScenarioWriter::compactTextIsQts()
+{
+    QJsonArray values{1, -7, 0, 2147483647, 2147483648.0, 1.5, 1e300, true, QJsonValue::Null,
+        QJsonArray{1}, QString()};
+    values << QJsonValue(-0.0) << QString(QChar(0xd83d))
+           << QString::fromUtf8("\u00e9 \U0001F600 /");
+    for (ushort code = 0; code < 0x80; ++code)
+        values << QString(QChar(code));
+    for (const QJsonValue& value : qAsConst(values)) {
+        const QJsonObject step{{QStringLiteral("b"), value}, {QStringLiteral("a\""), 1}};
+        QCOMPARE(
+            stepJson(step), QString::fromUtf8(QJsonDocument(step).toJson(QJsonDocument::Compact)));
+    }
+}
+
 void tst_ScenarioWriter::lists()
 {
     QCOMPARE(scenarioFileText(scenarioJson({})), QStringLiteral("var scenario = [\n\n];"));
@@ -184,36 +201,18 @@ void tst_ScenarioWriter::lists()
 
     const QJsonObject step{{QStringLiteral("x"), 1}};
     QJsonObject group{{QStringLiteral("hint"), QStringLiteral("qsTr(\"g\")")},
-        {QStringLiteral("icon"), QStringLiteral("eye")}};
-    const auto write = [&](StepListForm form, const QString& label) {
-        QString text;
-        StepListWriter outer(&text, form, 1);
-        outer.step(step);
-        group[QStringLiteral("label")] = label;
-        outer.beginGroup(group);
-        StepListWriter inner(&text, form, 2);
-        inner.step(step);
-        inner.step(step);
-        inner.end();
-        outer.endGroup();
-        outer.end();
-        return text;
-    };
-    QCOMPARE(write(StepListForm::File, QStringLiteral("l")),
-        QStringLiteral("[\n        {\n            \"x\": 1\n        },\n        {\n"
-                       "            \"hint\": qsTr(\"g\"),\n            \"label\": \"l\",\n"
-                       "            \"group\": [\n            {\n                \"x\": 1\n"
-                       "            },\n            {\n                \"x\": 1\n            }\n]\n"
-                       "        }\n]"));
-    QCOMPARE(write(StepListForm::Copied, QString()),
+        {QStringLiteral("icon"), QStringLiteral("eye")},
+        {QStringLiteral("group"), QJsonArray{step, step}}};
+    QCOMPARE(scenarioJson({step, group}, StepListForm::Copied),
         QStringLiteral(
             "[{\"x\":1},\n{ \"hint\": \"qsTr(\"g\")\", \"group\": [{\"x\":1},\n{\"x\":1}]}]"));
-    const QJsonArray pasted = arrayOf(write(StepListForm::Json, QStringLiteral("l")));
-    QCOMPARE(pasted.size(), 2);
-    const QJsonObject pastedGroup = pasted[1].toObject();
-    QCOMPARE(pastedGroup[QStringLiteral("hint")].toString(), QStringLiteral("qsTr(\"g\")"));
-    QCOMPARE(pastedGroup[QStringLiteral("label")].toString(), QStringLiteral("l"));
-    QCOMPARE(pastedGroup[QStringLiteral("group")].toArray().size(), 2);
+    group[QStringLiteral("label")] = QStringLiteral("l");
+    QCOMPARE(scenarioJson({step, group}),
+        QStringLiteral("[\n    {\n        \"x\": 1\n    },\n    {\n"
+                       "        \"hint\": qsTr(\"g\"),\n        \"label\": \"l\",\n"
+                       "        \"group\": [\n        {\n            \"x\": 1\n"
+                       "        },\n        {\n            \"x\": 1\n        }\n]\n"
+                       "    }\n]"));
 }
 
 void tst_ScenarioWriter::randomTrees()
