@@ -1,0 +1,194 @@
+#pragma once
+
+#include "editor/condition.h"
+#include "editor/stepfields.h"
+
+#include <QByteArray>
+#include <QDialog>
+#include <QJsonArray>
+#include <QVector>
+
+#include <array>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QPushButton;
+class QStandardItem;
+class QTextEdit;
+
+namespace TutorialEditor {
+
+class FormArea;
+class Model;
+class TreeView;
+class TutorialItem;
+
+// The authoring tool's window: the tree of steps above the form in which one
+// step's fields are edited. Each change in the form goes into the step at once
+// and is shown by the overlay.
+//
+// It is deleted when it closes.
+class Dialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit Dialog(QWidget* parent);
+    ~Dialog() override;
+
+    // The list of all steps in file form.
+    QString getCurrentJson() const;
+    // All steps, with the contents of groups.
+    QJsonArray getCurrentSteps() const;
+    // Appends the text of those of the indexes, from the first one on, that lie at
+    // this level, with the contents of groups, and takes them off the list.
+    // compact: the form for the clipboard, not for the file.
+    void getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, bool compact) const;
+    Model* model() const { return mModel; }
+
+    // Loads a scenario and shows the dialog. text: the file's, without comments
+    // and markers; errors: what was found wrong with it until now.
+    void setContents(const QString& text, const QStringList& errors = QStringList());
+    // The list, in file form, that counts as saved.
+    void setLastJson(const QString& json);
+    // Asks about unsaved changes, if there are any. withNo: whether going on
+    // without saving is one of the answers. False when the author cancelled or
+    // the scenario could not be written.
+    bool checkSave(bool withNo);
+    // Asks the host for the translation of every hint in the tree.
+    void localizeAll();
+    void localizeSub(QStandardItem* item);
+    // Shows an item in the form. Null or an end marker empties the form.
+    void linkToEdit(TutorialItem* item);
+    // Inserts a new step above an item and selects it.
+    void insertNewItem(TutorialItem* item);
+
+    // What the host sends; see Manager.
+    void focusActionIndexList(const QList<int>& list);
+    void setCoordinates(int x, int y);
+    void setCondition(const QStringList& condition);
+    void untrCallback(const QString& first, const QString& second);
+
+    // A double click into the tree; the index is invalid beside all rows.
+    void onTreeViewDoubleclicked(const QModelIndex& index);
+
+    void reject() override;
+
+private slots:
+    void onCustomContextMenuRequested(const QPoint& pos);
+    void onStartTriggered();
+    void onNewTriggered();
+    void onCutTriggered();
+    void onDeleteTriggered();
+    void onCopyTriggered();
+    void onPasteTriggered();
+    void onGroupingTriggered();
+    void onUngroupingTriggered();
+    void onMousePosTriggered();
+
+    void onXChanged(const QString& text);
+    void onYChanged(const QString& text);
+    void onFollowWindowCurrentIndexChanged();
+    void onRefWindowClicked();
+    void onCommentChanged();
+    void onHintChanged();
+    void onConditionCurrentIndexChanged();
+    void onConditionBoxChanged();
+    void onConditionParamChanged(const QString& text);
+    void onIconCurrentIndexChanged(const QString& text);
+    void onCommandCurrentIndexChanged(const QString& text);
+    void onCommandParamChanged(const QString& text);
+    void onLabelChanged(const QString& text);
+    void onArrowVisibleChanged(int state);
+    void onAddFieldMenu();
+    void onSaveClicked();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // A field of the form, and what is shown and hidden with it.
+    struct FormField {
+        StepField field;
+        QString name; // in the menu of fields to add; empty for one that comes with the one before
+        QVector<QWidget*> widgets; // the first one gets the focus
+    };
+
+    // Construction.
+    void createTree();
+    void createContextMenu();
+    QWidget* createForm();
+    void connectForm();
+    // What can be edited or pressed, in the order of the Tab key.
+    QVector<QWidget*> formWidgets() const;
+    QComboBox* parameterBox(ParameterView view) const;
+
+    // Loading.
+    void fillForm(const StepFields& fields);
+
+    // Editing.
+    StepFields heldFields() const;
+    const ConditionParameters& shownParameters() const;
+    void setEditConditionDefault();
+    void adjustComboBox();
+    // handler: what a debug line calls the change.
+    void onFieldChanged(const char* handler, const QString& text);
+    void onValueChanged();
+    // Shows a row of mFormFields, and those without a name after it.
+    void addField(int i);
+    void showFields(ShownFields fields);
+    void requestUntr(const QString& key, const QString& text) const;
+    void checkTreeBox() const;
+    // Points the overlay at the step in the form; x, y: kNoCoordinate for none.
+    void pointIndicator(int x, int y) const;
+
+    // Whether a list in file form is what was loaded or saved last.
+    bool isSaved(const QString& json) const;
+
+    // Commands.
+    // Whether the item in the form is one of these rows of a level, or below.
+    bool isInForm(const QModelIndex& level, int first, int last) const;
+    // The steps at these indexes, with the contents of groups.
+    QJsonArray getSteps(const QList<QModelIndex>& indexes) const;
+    // Puts the top ones on the clipboard and returns the text that it got.
+    QString copyToClipboard(const QList<QModelIndex>& indexes) const;
+    void removeRows(const QList<QModelIndex>& indexes);
+    // Has the host play the saved scenario from a step.
+    void start(TutorialItem* item);
+
+    Model* mModel;
+    TreeView* mTreeView = nullptr;
+    QMenu* mContextMenu = nullptr;
+    QLineEdit* mX = nullptr;
+    QLineEdit* mY = nullptr;
+    QComboBox* mFollowWindow = nullptr;
+    QPushButton* mRefWindow = nullptr;
+    QTextEdit* mComment = nullptr;
+    QLabel* mCommentTranslation = nullptr;
+    QTextEdit* mHint = nullptr;
+    QTextEdit* mHintTranslation = nullptr;
+    QComboBox* mCondition = nullptr;
+    std::array<QComboBox*, 6> mParameterBoxes{}; // in the order of ParameterView
+    std::array<QLineEdit*, 3> mParameters{};
+    QComboBox* mIcon = nullptr;
+    QComboBox* mCommand = nullptr;
+    QLineEdit* mCommandParameter = nullptr;
+    QLineEdit* mLabel = nullptr;
+    QCheckBox* mShowArrow = nullptr;
+    QPushButton* mAddField = nullptr;
+    QPushButton* mSave = nullptr;
+    QVector<FormField> mFormFields;
+    FormArea* mFormArea = nullptr;
+
+    TutorialItem* mItem = nullptr; // in the form; the model owns it
+    StepFields mFields; // what the form held after the last load or rebuild
+    // What counts as saved: the steps as they were loaded, which the items share,
+    // or a digest of the text that was written. The text is larger than the tree.
+    QJsonArray mLoadedSteps;
+    QByteArray mLastJson;
+};
+
+} // namespace TutorialEditor

@@ -1,0 +1,159 @@
+#include "editor/dialog.h"
+
+#include "editor/condition.h"
+#include "editor/debuglog.h"
+#include "editor/jsonescape.h"
+#include "editor/model.h"
+#include "editor/treeview.h"
+#include "editor/tutorialitem.h"
+#include "tutorial/tutorialmanager.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextEdit>
+
+using namespace TutorialEditor;
+
+namespace {
+
+const QString kHint = QStringLiteral("hint");
+const QString kComment = QStringLiteral("comment");
+
+QString rowsText(const QList<int>& rows)
+{
+    QStringList texts;
+    for (int row : rows)
+        texts << QString::number(row);
+    return texts.join(QLatin1Char(','));
+}
+
+// Gives an item its hint's translation, and the text that follows from it.
+void setLocalized(TutorialItem* item, const QString& translation)
+{
+    const QJsonObject step = item->step();
+    item->setTranslation(translation);
+    item->setData(displayText(translation, step.value(QLatin1String("x")).toVariant().toString(),
+                      step.value(QLatin1String("y")).toVariant().toString(),
+                      step.value(QLatin1String("followWindow")).toString()),
+        Qt::EditRole);
+}
+
+} // namespace
+
+void Dialog::setContents(const QString& text, const QStringList& errors)
+{
+    mModel->setContents(text, errors);
+    mLastJson.clear();
+    mLoadedSteps = getCurrentSteps();
+    show();
+    raise();
+    activateWindow();
+}
+
+void Dialog::localizeAll()
+{
+    localizeSub(mModel->invisibleRootItem());
+}
+
+void Dialog::localizeSub(QStandardItem* item)
+{
+    if (!TutorialManager::mInstance)
+        return;
+    const QList<int> rows = mModel->getActionIndexList(item);
+    for (int row = 0; row < item->rowCount(); ++row) {
+        QStandardItem* child = item->child(row);
+        localizeSub(child);
+        const TutorialItem* step = TutorialItem::from(child);
+        const QJsonValue hint = step ? step->step().value(kHint) : QJsonValue::Undefined;
+        if (!hint.isUndefined())
+            requestUntr(kHint + rowsText(rows + QList<int>{row}), hint.toString());
+    }
+}
+
+void Dialog::linkToEdit(TutorialItem* item)
+{
+    EDITOR_DEBUG << logged(item ? item->text() : QString());
+    mItem = item && !item->isEndMarker() ? item : nullptr;
+    mRefWindow->setEnabled(mItem && !mItem->isGroup());
+    mAddField->setEnabled(mItem);
+    if (!mItem) {
+        fillForm(StepFields());
+        return;
+    }
+    EDITOR_DEBUG << mItem->json();
+    const StepFields fields = loadStep(mItem->step(), mItem->isGroup());
+    fillForm(fields);
+
+    if (fields.shown & FollowWindowField)
+        checkTreeBox();
+    if (fields.shown & CommentField)
+        requestUntr(kComment, fields.comment);
+    if (!fields.hint.isEmpty() && mItem->translation().isEmpty())
+        requestUntr(kHint, fields.hint);
+    pointIndicator(coordinate(fields.x), coordinate(fields.y));
+}
+
+void Dialog::fillForm(const StepFields& fields)
+{
+    for (QWidget* widget : formWidgets())
+        widget->blockSignals(true);
+    mX->setText(fields.x);
+    mY->setText(fields.y);
+    mFollowWindow->setCurrentIndex(mFollowWindow->findText(fields.followWindow));
+    mComment->setPlainText(fields.comment);
+    mCommentTranslation->clear();
+    mHint->setPlainText(fields.hint);
+    mHintTranslation->setPlainText(mItem ? mItem->translation() : QString());
+    mCondition->setCurrentIndex(mCondition->findText(fields.condition));
+    for (QComboBox* box : mParameterBoxes)
+        box->setCurrentIndex(0);
+    for (std::size_t i = 0; i < mParameters.size(); ++i) {
+        mParameters[i]->setText(fields.parameters[i]);
+        mParameters[i]->hide();
+    }
+    mIcon->setCurrentIndex(mIcon->findText(fields.icon));
+    mCommand->setCurrentIndex(mCommand->findText(fields.command));
+    mCommandParameter->setText(fields.commandParameter);
+    mLabel->setText(fields.label);
+    mShowArrow->setChecked(fields.showArrow);
+
+    for (const FormField& field : qAsConst(mFormFields)) {
+        for (QWidget* widget : field.widgets)
+            widget->setVisible(fields.shown & field.field);
+    }
+    adjustComboBox();
+    // A box that does not know its parameter is left empty, so that each of its
+    // rows can be chosen.
+    const ConditionParameters& parameters = shownParameters();
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        if (QComboBox* box = parameterBox(parameters[i].view))
+            box->setCurrentIndex(box->findText(fields.boxes[i]));
+    }
+    for (QWidget* widget : formWidgets())
+        widget->blockSignals(false);
+    mFields = heldFields();
+}
+
+void Dialog::untrCallback(const QString& first, const QString& second)
+{
+    const QString text = lookedUpText(second);
+    if (first == kComment) {
+        mCommentTranslation->setText(text);
+    } else if (first == kHint) {
+        mHintTranslation->setPlainText(text);
+        if (mItem)
+            setLocalized(mItem, text);
+        pointIndicator(mX->text().toInt(), mY->text().toInt());
+    } else if (first.startsWith(kHint)) {
+        QList<int> rows;
+        for (const QString& row : first.mid(kHint.size()).split(QLatin1Char(',')))
+            rows << row.toInt();
+        QStandardItem* item = mModel->getItemByActionIndexList(rows);
+        // A step that is gone by now leads to what was above it.
+        if (TutorialItem::from(item) && mModel->getActionIndexList(item) == rows)
+            setLocalized(TutorialItem::from(item), text);
+    }
+}

@@ -1,0 +1,137 @@
+#include "editor/dialog.h"
+
+#include "editor/debuglog.h"
+#include "editor/manager.h"
+#include "editor/model.h"
+#include "editor/scenariowriter.h"
+#include "editor/tutorialitem.h"
+
+#include <QCloseEvent>
+#include <QCryptographicHash>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QMessageBox>
+#include <QSettings>
+
+using namespace TutorialEditor;
+
+namespace {
+
+QJsonObject stepOf(const TutorialItem* item);
+
+// A level's steps, with the contents of groups.
+QJsonArray stepsOf(const QStandardItem* level)
+{
+    QJsonArray steps;
+    for (int row = 0; row < level->rowCount(); ++row) {
+        const TutorialItem* item = TutorialItem::from(level->child(row));
+        if (item && !item->isEndMarker())
+            steps.append(stepOf(item));
+    }
+    return steps;
+}
+
+QJsonObject stepOf(const TutorialItem* item)
+{
+    QJsonObject step = item->step();
+    if (item->isGroup())
+        step.insert(QStringLiteral("group"), stepsOf(item));
+    return step;
+}
+
+QByteArray digest(const QString& text)
+{
+    const auto bytes = QByteArray::fromRawData(
+        reinterpret_cast<const char*>(text.constData()), text.size() * int(sizeof(QChar)));
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+}
+
+} // namespace
+
+QString Dialog::getCurrentJson() const
+{
+    return scenarioJson(getCurrentSteps());
+}
+
+QJsonArray Dialog::getCurrentSteps() const
+{
+    return stepsOf(mModel->invisibleRootItem());
+}
+
+QJsonArray Dialog::getSteps(const QList<QModelIndex>& indexes) const
+{
+    QJsonArray steps;
+    for (const QModelIndex& index : indexes) {
+        const TutorialItem* item = mModel->itemAt(index);
+        if (item && !item->isEndMarker())
+            steps.append(stepOf(item));
+    }
+    return steps;
+}
+
+void Dialog::getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, bool compact) const
+{
+    QList<QModelIndex> written;
+    while (!indexes.isEmpty()) {
+        const TutorialItem* item = mModel->itemAt(indexes.first());
+        if (item && item->depth() != depth)
+            break;
+        written << indexes.takeFirst();
+    }
+    out +=
+        scenarioJson(getSteps(written), compact ? StepListForm::Copied : StepListForm::File, depth);
+}
+
+void Dialog::setLastJson(const QString& json)
+{
+    mLoadedSteps = QJsonArray();
+    mLastJson = digest(json);
+}
+
+bool Dialog::isSaved(const QString& json) const
+{
+    return digest(json) == (mLastJson.isEmpty() ? digest(scenarioJson(mLoadedSteps)) : mLastJson);
+}
+
+bool Dialog::checkSave(bool withNo)
+{
+    const QString json = getCurrentJson();
+    if (isSaved(json))
+        return true;
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::Cancel;
+    if (withNo)
+        buttons |= QMessageBox::No;
+    const auto answer = QMessageBox::question(nullptr, tr("Save"), tr("Save OK?"), buttons);
+    if (answer == QMessageBox::No)
+        return true;
+    if (answer != QMessageBox::Yes)
+        return false;
+    if (Manager::save(json))
+        return true;
+    QMessageBox::warning(nullptr, tr("Save"), tr("The scenario could not be saved."));
+    return false;
+}
+
+void Dialog::onSaveClicked()
+{
+    EDITOR_DEBUG;
+    checkSave(false);
+}
+
+void Dialog::reject()
+{
+    close();
+}
+
+void Dialog::closeEvent(QCloseEvent* event)
+{
+    EDITOR_DEBUG;
+    if (!checkSave(true)) {
+        event->ignore();
+        return;
+    }
+    linkToEdit(nullptr);
+    QSettings().setValue(QStringLiteral("TutorialEditor.geometry"), geometry());
+    if (Manager::mInstance)
+        Manager::mInstance->clearDialog();
+}

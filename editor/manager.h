@@ -1,0 +1,56 @@
+#pragma once
+
+#include "tutorial/vocabulary.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+namespace TutorialEditor {
+
+class Dialog;
+
+// The one way into the authoring tool. Its static operations make the manager
+// and the dialog when there are none; a fresh dialog is empty, and not shown
+// before a scenario is opened.
+class Manager : public QObject {
+    Q_OBJECT
+
+public:
+    // Null until the authoring tool is used, then kept for good.
+    static Manager* mInstance;
+
+    ~Manager() override;
+
+    // Opens a scenario file, without a question about the one that is open.
+    static void setContents(const QString& path);
+    // Writes the scenario to the file that was opened last. json: the list of
+    // steps in file form. False when it was not written.
+    static bool save(const QString& json);
+    // Selects the step at an action index list.
+    static void focusActionIndexList(const QList<int>& actionIndexList);
+    // The point, in pixels, that the author picked for the step in the form.
+    static void setCoordinates(int x, int y);
+    // The host's answer to a look-up: the key that was sent, and the text.
+    static void untrCallback(const QString& first, const QString& second);
+    // The condition that was recorded: its kind's name and its parameters.
+    static void setCondition(const QStringList& condition);
+
+    // Asks about unsaved changes. ask: whether closing without saving is one of
+    // the answers. False when the author cancelled or saving failed.
+    bool checkSave(bool ask);
+    // Forgets the dialog, which is not deleted.
+    void clearDialog();
+
+private:
+    Manager() = default;
+    static Manager* ensure();
+
+    QPointer<Dialog> mDialog;
+    QString mPath;
+};
+
+// The picture of an icon kind; empty for a value that is none.
+QString getIconFilename(Tutorial::EnumIconKind kind);
+
+} // namespace TutorialEditor
