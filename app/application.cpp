@@ -1,5 +1,6 @@
 #include "app/application.h"
 
+#include "editor/hostmessages.h"
 #include "tutorial/tutorialmanager.h"
 
 #include <QApplication>
@@ -47,6 +48,7 @@ int runApplication(int argc, char** argv)
 
     auto* manager = new TutorialManager(&application);
     manager->init();
+    const TutorialEditor::HostMessages hostMessages(manager);
     const int exitCode = QApplication::exec();
     deleteWindows();
     return exitCode;
