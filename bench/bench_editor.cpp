@@ -1,0 +1,303 @@
+#include "bench/report.h"
+#include "editor/dialog.h"
+#include "editor/model.h"
+#include "editor/scenarioreader.h"
+#include "editor/scenariowriter.h"
+#include "editor/treeview.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QIcon>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLoggingCategory>
+#include <QProcess>
+#include <QTest>
+#include <QTextEdit>
+#include <QTextStream>
+
+#include <functional>
+#include <malloc.h>
+#include <memory>
+
+using namespace TutorialEditor;
+
+// Measures the authoring tool beside what Qt needs for the least of the same
+// work.
+//
+//   bench_editor                       prints the table's rows
+//   bench_editor memory ours|floor     prints the memory of a tree, in MiB
+
+namespace {
+
+constexpr int kRuns = 7;
+constexpr int kSteps = 10000;
+constexpr int kManySteps = 100000;
+
+QJsonObject step(int i)
+{
+    return {{QStringLiteral("x"), i % 1920}, {QStringLiteral("y"), i % 1080},
+        {QStringLiteral("followWindow"), QStringLiteral("MainWindow")},
+        {QStringLiteral("comment"), QStringLiteral("step number %1").arg(i)},
+        {QStringLiteral("hint"), QStringLiteral("qsTr(\"Press the <b>button</b> no. %1\")").arg(i)},
+        {QStringLiteral("condition"), QStringLiteral("click,")},
+        {QStringLiteral("icon"), QStringLiteral("click")}};
+}
+
+QJsonArray steps(int count)
+{
+    QJsonArray array;
+    for (int i = 0; i < count; ++i)
+        array.append(step(i));
+    return array;
+}
+
+QJsonArray groupOf(const QJsonArray& contents)
+{
+    return {QJsonObject{
+        {QStringLiteral("hint"), QStringLiteral("a group")}, {QStringLiteral("group"), contents}}};
+}
+
+double elapsedMs(const std::function<void()>& work)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    work();
+    return elapsed.nsecsElapsed() / 1e6;
+}
+
+// The median over some runs, after one that does not count. prepare: what each
+// run needs and is not measured.
+double medianMs(
+    const std::function<void()>& work, const std::function<void()>& prepare = [] {})
+{
+    QVector<double> times;
+    for (int run = 0; run <= kRuns; ++run) {
+        prepare();
+        const double time = elapsedMs(work);
+        if (run > 0)
+            times << time;
+    }
+    return median(times);
+}
+
+void load(Model* model, const QString& fileText)
+{
+    model->setContents(removeMarkers(removeComments(fileText)));
+}
+
+// What any tree of these steps needs: a text, an icon and a string an item.
+void fill(QStandardItemModel* model, const QByteArray& json)
+{
+    static const QIcon icon(QStringLiteral(":/resource/png/click.png"));
+    const QJsonArray array = QJsonDocument::fromJson(json).array();
+    model->clear();
+    for (const QJsonValue& value : array) {
+        const QJsonObject object = value.toObject();
+        auto* item = new QStandardItem(object.value(QLatin1String("hint")).toString());
+        item->setIcon(icon);
+        item->setData(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+        model->appendRow(item);
+    }
+}
+
+bool report(const QString& subject, double ours, double floor, double limit)
+{
+    const auto figure = [](double ms) { return QStringLiteral("%1 ms").arg(ms, 0, 'f', 1); };
+    return reportRow(subject, figure(ours), figure(floor),
+        QStringLiteral("%1 x").arg(ours / floor, 0, 'f', 2),
+        QStringLiteral("at most %1 x").arg(limit), ours <= limit * floor);
+}
+
+bool measureFiles()
+{
+    bool kept = true;
+    double loadMs[2];
+    const int counts[] = {kSteps, kManySteps};
+    for (int i = 0; i < 2; ++i) {
+        const QJsonArray array = steps(counts[i]);
+        const QString text = scenarioFileText(scenarioJson(array));
+        const QByteArray json = QJsonDocument(array).toJson();
+        Model model(nullptr);
+        QStandardItemModel plain;
+        loadMs[i] = medianMs([&] { load(&model, text); });
+        if (i == 0) {
+            kept &= report(QStringLiteral("loading 10,000 steps"), loadMs[i],
+                medianMs([&] { fill(&plain, json); }), 1.5);
+            kept &= report(QStringLiteral("writing 10,000 steps"),
+                medianMs([&] { scenarioJson(array); }),
+                medianMs([&] { QJsonDocument(array).toJson(); }), 3);
+        }
+    }
+    kept &= report(QStringLiteral("loading 100,000 steps, to 10,000"), loadMs[1], loadMs[0], 12);
+
+    const auto comments = [](int count) {
+        return QStringLiteral("    // a comment\n    \"x\": 1, /* another */\n").repeated(count);
+    };
+    const QString few = comments(kSteps);
+    const QString many = comments(kManySteps);
+    return kept
+        & report(QStringLiteral("removing 100,000 comments, to 10,000"),
+            medianMs([&] { removeComments(many); }), medianMs([&] { removeComments(few); }), 12);
+}
+
+// A dialog on the (invisible) screen with these steps.
+std::unique_ptr<Dialog> dialogWith(const QJsonArray& array)
+{
+    auto dialog = std::make_unique<Dialog>(nullptr);
+    dialog->setContents(removeMarkers(scenarioFileText(scenarioJson(array))));
+    return dialog;
+}
+
+double keystrokeMs(int count)
+{
+    const auto dialog = dialogWith(steps(count));
+    auto* tree = dialog->findChild<TreeView*>(QStringLiteral("steps"));
+    tree->selectRows(dialog->model()->invisibleRootItem(), 0, 0);
+    auto* hint = dialog->findChild<QTextEdit*>(QStringLiteral("hint"));
+    constexpr int kKeys = 50;
+    return medianMs([hint] {
+        for (int key = 0; key < kKeys; ++key) {
+            QTest::keyClick(hint, Qt::Key_A);
+            QCoreApplication::processEvents();
+        }
+    }) / kKeys;
+}
+
+double groupingMs(int count, double* ungrouping)
+{
+    const auto dialog = dialogWith(steps(count));
+    Model* model = dialog->model();
+    auto* tree = dialog->findChild<TreeView*>(QStringLiteral("steps"));
+    QVector<double> times;
+    QVector<double> ungroupTimes;
+    for (int run = 0; run < 3; ++run) {
+        tree->selectRows(model->invisibleRootItem(), 0, count - 1);
+        times << elapsedMs([&] { QTest::keyClick(tree, Qt::Key_B, Qt::ControlModifier); });
+        ungroupTimes << elapsedMs([&] { QTest::keyClick(tree, Qt::Key_I, Qt::ControlModifier); });
+    }
+    if (model->rowCount() != count + 1)
+        qFatal("%d rows are left of %d", model->rowCount(), count + 1);
+    *ungrouping = median(ungroupTimes);
+    return median(times);
+}
+
+bool measureCommands()
+{
+    bool kept = true;
+    const QJsonArray array = steps(kSteps);
+    {
+        const auto dialog = dialogWith(groupOf(array));
+        Model* model = dialog->model();
+        auto* tree = dialog->findChild<TreeView*>(QStringLiteral("steps"));
+        tree->expandAll();
+        QTreeView plain;
+        plain.setModel(model);
+        plain.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        plain.resize(tree->size());
+        plain.show();
+        plain.expandAll();
+        const QPoint group = tree->visualRect(model->index(0, 0)).center();
+        const double click = medianMs(
+            [&] { QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, group); },
+            [&] { tree->clearSelection(); });
+        if (tree->getSelectedIndexes().size() != kSteps + 2)
+            qFatal("%d rows are selected", tree->getSelectedIndexes().size());
+        kept &= report(QStringLiteral("selecting a group of 10,000 steps"), click,
+            medianMs([&] { plain.selectAll(); }, [&] { plain.clearSelection(); }), 2);
+    }
+    kept &= report(QStringLiteral("a key in the hint box, 10,000 steps, to 10"),
+        keystrokeMs(kSteps), keystrokeMs(10), 2);
+    {
+        const auto dialog = dialogWith(array);
+        Model* model = dialog->model();
+        auto* tree = dialog->findChild<TreeView*>(QStringLiteral("steps"));
+        const QString text = scenarioFileText(scenarioJson(array));
+        Model other(nullptr);
+        const double copyAndPaste = medianMs(
+            [&] {
+                QTest::keyClick(tree, Qt::Key_C, Qt::ControlModifier);
+                QTest::keyClick(tree, Qt::Key_V, Qt::ControlModifier);
+            },
+            [&] {
+                if (model->rowCount() > kSteps + 1)
+                    model->removeRows(0, kSteps);
+                tree->selectRows(model->invisibleRootItem(), 0, kSteps - 1);
+            });
+        if (model->rowCount() != 2 * kSteps + 1)
+            qFatal("%d rows after pasting", model->rowCount());
+        kept &= report(QStringLiteral("copying and pasting 10,000 steps, to loading them"),
+            copyAndPaste, medianMs([&] { load(&other, text); }), 2);
+    }
+    double few = 0;
+    double many = 0;
+    const double grouping = groupingMs(kSteps, &few);
+    const double groupingMany = groupingMs(kManySteps, &many);
+    kept &= report(QStringLiteral("grouping 100,000 steps, to 10,000"), groupingMany, grouping, 20);
+    kept &= report(QStringLiteral("ungrouping 100,000 steps, to 10,000"), many, few, 20);
+    return kept;
+}
+
+double residentMiB()
+{
+    QFile status(QStringLiteral("/proc/self/statm"));
+    if (!status.open(QIODevice::ReadOnly))
+        qFatal("no /proc/self/statm");
+    return status.readAll().split(' ').at(1).toDouble() * 4096 / (1024 * 1024);
+}
+
+// The memory that a tree of many steps holds, without what making it took.
+int printMemory(bool ours)
+{
+    Model model(nullptr);
+    QStandardItemModel plain;
+    const double before = residentMiB();
+    {
+        const QJsonArray array = steps(kManySteps);
+        if (ours)
+            load(&model, scenarioFileText(scenarioJson(array)));
+        else
+            fill(&plain, QJsonDocument(array).toJson());
+    }
+    malloc_trim(0);
+    QTextStream(stdout) << residentMiB() - before << '\n';
+    return 0;
+}
+
+double memoryOf(const char* whose)
+{
+    QProcess process;
+    process.start(
+        QCoreApplication::applicationFilePath(), {QStringLiteral("memory"), QLatin1String(whose)});
+    process.waitForFinished(-1);
+    return process.readAllStandardOutput().trimmed().toDouble();
+}
+
+bool measureMemory()
+{
+    const double ours = memoryOf("ours");
+    const double floor = memoryOf("floor");
+    const auto figure = [](double value) { return QStringLiteral("%1 MiB").arg(value, 0, 'f', 1); };
+    return reportRow(QStringLiteral("memory of 100,000 steps"), figure(ours), figure(floor),
+        QStringLiteral("%1 x").arg(ours / floor, 0, 'f', 2), QStringLiteral("at most 1.5 x"),
+        ours <= 1.5 * floor);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("memory"))
+        return printMemory(arguments.value(2) == QLatin1String("ours"));
+    bool kept = measureFiles();
+    kept &= measureMemory();
+    kept &= measureCommands();
+    return kept ? 0 : 1;
+}
