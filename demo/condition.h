@@ -74,8 +74,8 @@ public:
 };
 
 // Something that happened in the host, in the words of the condition that it
-// may meet, with the windows in which it happened (a panel and the window
-// around it, for example).
+// may meet or that holds since, with the windows in which it happened (a panel
+// and the window around it, for example).
 struct HostEvent {
     Tutorial::EnumConditionKind kind;
     QStringList parameters;

@@ -1,6 +1,7 @@
 #include "demo/hostobserver.h"
 
 #include "demo/windowregistry.h"
+#include "tutorial/tutorialaction.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -61,7 +62,7 @@ HostObserver::HostObserver(const WindowRegistry& registry, QObject* parent)
     : QObject(parent), mRegistry(registry)
 {
     connect(&registry, &WindowRegistry::opened, this, &HostObserver::onOpened);
-    connect(&registry, &WindowRegistry::changed, this, &HostObserver::changed);
+    connect(&registry, &WindowRegistry::changed, this, &HostObserver::onWindowChanged);
     connect(qApp, &QApplication::focusChanged, this,
         [this](QWidget*, QWidget* now) { onFocusChanged(now); });
 }
@@ -129,18 +130,34 @@ void HostObserver::onOpened(EnumWindowKind kind, QWidget* window)
         report(Condition_popup, {listName(mMenuOwner)}, mMenuOwner);
         mMenuOwner = nullptr;
     }
+    // What the controls hold is looked at after every change; as something that
+    // happened counts only what the user did.
     watchEach<QLineEdit>(window, [this](QLineEdit* edit) {
         connect(edit, &QLineEdit::textChanged, this, &HostObserver::changed);
+        connect(edit, &QLineEdit::textEdited, this, [this, edit](const QString& text) {
+            report(
+                Condition_textLength, {QStringLiteral(">="), QString::number(text.size())}, edit);
+        });
     });
     watchEach<QSpinBox>(window, [this](QSpinBox* box) {
-        connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &HostObserver::changed);
+        connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, box](int value) {
+            if (box->hasFocus())
+                report(Condition_spinBox, {QStringLiteral("="), QString::number(value)}, box);
+            emit changed();
+        });
     });
     watchEach<QComboBox>(window, [this](QComboBox* box) {
         connect(
             box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &HostObserver::changed);
+        connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, box](int row) {
+            report(Condition_comboBox, {box->objectName(), QString::number(row)}, box);
+        });
     });
     watchEach<QCheckBox>(window, [this](QCheckBox* box) {
         connect(box, &QCheckBox::toggled, this, &HostObserver::changed);
+        connect(box, &QCheckBox::clicked, this, [this, box](bool on) {
+            report(Condition_checked, {box->objectName(), QString::number(on)}, box);
+        });
     });
     watchEach<QPushButton>(window, [this](QPushButton* button) {
         connect(button, &QPushButton::clicked, this,
@@ -165,6 +182,15 @@ void HostObserver::onOpened(EnumWindowKind kind, QWidget* window)
     });
     if (auto* map = window->findChild<QWidget*>(QStringLiteral("Map")))
         map->installEventFilter(this);
+}
+
+void HostObserver::onWindowChanged(EnumWindowKind kind)
+{
+    // Menus come and go with every action.
+    if (kind != Window_Popup)
+        report(Condition_windowState, {TutorialAction::getWindowKindName(kind), windowState(kind)},
+            mRegistry.window(kind));
+    emit changed();
 }
 
 void HostObserver::onFocusChanged(QWidget* now)

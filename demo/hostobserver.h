@@ -38,6 +38,7 @@ protected:
 
 private:
     void onOpened(Tutorial::EnumWindowKind kind, QWidget* window);
+    void onWindowChanged(Tutorial::EnumWindowKind kind);
     void onFocusChanged(QWidget* now);
     void report(
         Tutorial::EnumConditionKind kind, const QStringList& parameters, const QWidget* where);

@@ -1,3 +1,4 @@
+#include "demo/authoring.h"
 #include "demo/mainwindow.h"
 #include "demo/tutorialsession.h"
 #include "demo/windowregistry.h"
@@ -21,6 +22,7 @@ struct Arguments {
     QString language;
     QString tutorial;
     QString scenario;
+    QString edited;
     QString screenshots;
     bool autoplay = false;
 };
@@ -71,10 +73,12 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     const QCommandLineOption autoplay(QStringLiteral("autoplay"),
         QStringLiteral("Play this scenario and the learner too, then end."),
         QStringLiteral("FILE"));
+    const QCommandLineOption edit(QStringLiteral("edit"),
+        QStringLiteral("Open this scenario file in the authoring tool."), QStringLiteral("FILE"));
     const QCommandLineOption screenshots(QStringLiteral("screenshots"),
         QStringLiteral("With --autoplay: keep a picture of every step there."),
         QStringLiteral("DIR"));
-    parser.addOptions({help, language, tutorial, play, autoplay, screenshots});
+    parser.addOptions({help, language, tutorial, play, autoplay, edit, screenshots});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return complain(parser.errorText(), kWrongUsage);
@@ -90,14 +94,19 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     if (arguments->language != QLatin1String("en") && arguments->language != QLatin1String("de"))
         return complain(
             QStringLiteral("there is no language “%1”").arg(arguments->language), kWrongUsage);
-    if (parser.isSet(play) && parser.isSet(autoplay))
-        return complain(QStringLiteral("--play and --autoplay exclude each other"), kWrongUsage);
+    if (int(parser.isSet(play)) + int(parser.isSet(autoplay)) + int(parser.isSet(edit)) > 1)
+        return complain(
+            QStringLiteral("--play, --autoplay and --edit exclude each other"), kWrongUsage);
     if (parser.isSet(screenshots) && !parser.isSet(autoplay))
         return complain(QStringLiteral("--screenshots needs --autoplay"), kWrongUsage);
 
     arguments->tutorial = parser.value(tutorial);
     arguments->screenshots = parser.value(screenshots);
     arguments->autoplay = parser.isSet(autoplay);
+    arguments->edited = parser.value(edit);
+    if (parser.isSet(edit) && !QFileInfo(arguments->edited).isFile())
+        return complain(
+            QStringLiteral("there is no file “%1”").arg(arguments->edited), kWrongUsage);
     if (!parser.isSet(play) && !arguments->autoplay)
         return {};
     const QString scenario = parser.value(arguments->autoplay ? autoplay : play);
@@ -173,17 +182,30 @@ int main(int argc, char** argv)
             if (!window.loadPreset(name))
                 window.showNotice(MainWindow::tr("There is no data “%1”.").arg(name));
         });
-    for (const auto text : {&TutorialSession::notice, &TutorialSession::failed}) {
-        QObject::connect(&session, text, &window, [&](const QString& line) {
-            tell(line);
-            window.showNotice(line);
-        });
-    }
+    const auto complainTo = [&](const QString& line) {
+        tell(line);
+        window.showNotice(line);
+    };
+    for (const auto text : {&TutorialSession::notice, &TutorialSession::failed})
+        QObject::connect(&session, text, &window, complainTo);
     QObject::connect(&session, &TutorialSession::finished, &window,
         [&] { window.showNotice(MainWindow::tr("You have finished the tutorial.")); });
     QObject::connect(&window, &MainWindow::tutorialRequested, &session,
         [&](const QString& scenario) { session.play(scenarioPath(scenario)); });
-    QObject::connect(&window, &MainWindow::tutorialStopRequested, &session, &TutorialSession::stop);
+    Authoring authoring(session, registry);
+    QObject::connect(&authoring, &Authoring::notice, &window, &MainWindow::showNotice);
+    QObject::connect(&window, &MainWindow::tutorialStopRequested, &authoring, &Authoring::stop);
+    QObject::connect(&window, &MainWindow::editRequested, &authoring, &Authoring::edit);
+    QObject::connect(
+        &window, &MainWindow::newTutorialRequested, &authoring, [&](const QString& path) {
+            if (Authoring::writeStarter(path))
+                authoring.edit(path);
+            else
+                complainTo(MainWindow::tr("“%1” cannot be written.").arg(path));
+        });
+    // The menu's own action is over by then.
+    QObject::connect(&window, &MainWindow::recordRequested, &authoring, &Authoring::recordCondition,
+        Qt::QueuedConnection);
     window.show();
 
     if (arguments.autoplay) {
@@ -204,5 +226,7 @@ int main(int argc, char** argv)
     }
     if (!arguments.scenario.isEmpty())
         session.play(arguments.scenario);
+    if (!arguments.edited.isEmpty())
+        authoring.edit(arguments.edited);
     return QApplication::exec();
 }

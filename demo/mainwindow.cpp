@@ -4,7 +4,6 @@
 #include "demo/windowregistry.h"
 
 #include <QActionGroup>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScrollArea>
@@ -73,6 +72,8 @@ void MainWindow::makeActions()
 {
     newAction("New Project", tr("&New Project…"), &MainWindow::openNewProject)
         ->setShortcut(QKeySequence::New);
+    newAction("New Tutorial", tr("New &Tutorial…"), &MainWindow::openNewTutorial);
+    newAction("Edit Tutorial", tr("&Edit Tutorial…"), &MainWindow::openEditTutorial);
     newAction("Exit", tr("E&xit"), &QWidget::close)->setShortcut(QKeySequence::Quit);
     newAction("Undo", tr("&Undo"), [this] { mUndoStack.undo(); })->setShortcut(QKeySequence::Undo);
     newAction("Redo", tr("&Redo"), [this] { mUndoStack.redo(); })->setShortcut(QKeySequence::Redo);
@@ -104,6 +105,7 @@ void MainWindow::makeActions()
             emit tutorialRequested(path);
     });
     newAction("Stop Tutorial", tr("&Stop"), &MainWindow::tutorialStopRequested);
+    newAction("Record Condition", tr("&Record Condition"), &MainWindow::recordRequested);
     // Not in any menu: it is triggered when a project is there.
     newAction("Project Loaded", {});
 
@@ -143,13 +145,15 @@ void MainWindow::makeMenus()
         QString title;
         QList<const char*> actionNames;
     } menus[] = {
-        {tr("&File"), {"New Project", "", "Exit"}},
+        {tr("&File"), {"New Project", "", "New Tutorial", "Edit Tutorial", "", "Exit"}},
         {tr("&Edit"), {"Undo", "Redo"}},
         {tr("&Map"), {"New Map", "Edit Map", "Delete"}},
         {tr("&Draw"), {"Map", "Event", "", "Pencil", "Rectangle", "Flood Fill"}},
         {tr("&View"), {"Zoom In", "Zoom Out", "Actual Size"}},
         {tr("&Tools"), {"Database", "Options"}},
-        {tr("T&utorial"), {"Tutorial", "All Conditions", "Open Scenario", "", "Stop Tutorial"}},
+        {tr("T&utorial"),
+            {"Tutorial", "All Conditions", "Open Scenario", "", "Stop Tutorial", "",
+                "Record Condition"}},
         {tr("&Help"), {"About"}},
     };
     for (const auto& entry : menus) {

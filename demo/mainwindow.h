@@ -6,6 +6,7 @@
 #include "tutorial/vocabulary.h"
 
 #include <QAction>
+#include <QFileDialog>
 #include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
@@ -33,6 +34,12 @@ signals:
     // A scenario was chosen from the menu: its name, or a file's path.
     void tutorialRequested(const QString& scenario);
     void tutorialStopRequested();
+    // A scenario file is to be opened in the authoring tool; a new one is to be
+    // written there first.
+    void editRequested(const QString& path);
+    void newTutorialRequested(const QString& path);
+    // The condition of the next step is to be recorded.
+    void recordRequested();
 
 private:
     QAction* newAction(const char* name, const QString& text);
@@ -65,6 +72,9 @@ private:
     // Opens the dialog as this kind of window; accepted is called with it.
     template <typename Dialog, typename Accepted>
     void open(Tutorial::EnumWindowKind kind, Dialog* dialog, Accepted accepted);
+    // Asks for a scenario file, existing or new, and emits the signal with it.
+    void askForScenario(const QString& title, QFileDialog::AcceptMode mode,
+        void (MainWindow::*requested)(const QString& path));
     void openNewProject();
     void openNewMap();
     void openEditMap();
@@ -74,6 +84,8 @@ private:
     void openDatabase();
     void openOptions();
     void openAbout();
+    void openNewTutorial();
+    void openEditTutorial();
 
     WindowRegistry& mRegistry;
     Project mProject;

@@ -225,6 +225,34 @@ void MainWindow::openOptions()
         [this](const OptionsDialog& dialog) { setOptions(dialog.options()); });
 }
 
+void MainWindow::askForScenario(const QString& title, QFileDialog::AcceptMode mode,
+    void (MainWindow::*requested)(const QString& path))
+{
+    auto* dialog = new QFileDialog(this, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // The desktop's own dialog would be a window that nobody knows of.
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setNameFilter(tr("Scenarios (*.js)"));
+    dialog->setDefaultSuffix(QStringLiteral("js"));
+    dialog->setAcceptMode(mode);
+    // Before it writes over a file, the dialog asks.
+    dialog->setFileMode(
+        mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    open(Window_FileDialog, dialog, [this, requested](const QFileDialog& asked) {
+        emit(this->*requested)(asked.selectedFiles().constFirst());
+    });
+}
+
+void MainWindow::openNewTutorial()
+{
+    askForScenario(tr("New Tutorial"), QFileDialog::AcceptSave, &MainWindow::newTutorialRequested);
+}
+
+void MainWindow::openEditTutorial()
+{
+    askForScenario(tr("Edit Tutorial"), QFileDialog::AcceptOpen, &MainWindow::editRequested);
+}
+
 void MainWindow::openAbout()
 {
     auto* about = new QMessageBox(QMessageBox::NoIcon, tr("About"),

@@ -8,6 +8,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <utility>
+
 using namespace Tutorial;
 
 namespace {
@@ -51,10 +53,14 @@ TutorialSession::TutorialSession(const QString& program, WindowRegistry& registr
     connect(&registry, &WindowRegistry::moved, this,
         [this](EnumWindowKind kind, const QPoint& position) {
             sendUnlessIdle(positionMessage(kind, position));
-            if (mPlayer.isPlaying() && mPlayer.isShown())
-                sendUnlessIdle(xyMessage(sentPointOf(mPlayer.step())));
+            if (const auto step = stepOnShow())
+                sendUnlessIdle(xyMessage(sentPointOf(*step)));
         });
-
+    // A window that was closed leaves the author's step to the main window.
+    connect(&registry, &WindowRegistry::changed, this, [this] {
+        if (mPreview)
+            sendUnlessIdle(xyMessage(sentPointOf(*mPreview)));
+    });
     connect(&registry, &WindowRegistry::minimized, this, [this](EnumWindowKind kind, bool on) {
         if (kind == Window_MainWindow)
             setMinimized(on);
@@ -76,11 +82,16 @@ TutorialSession::TutorialSession(const QString& program, WindowRegistry& registr
         emit finished();
     });
 
-    connect(&mLink, &HostLink::connected, this, [this] { mPlayer.start(mScenario); });
+    connect(&mLink, &HostLink::connected, this, [this] {
+        if (const auto task = std::exchange(mWhenConnected, nullptr))
+            task();
+    });
     connect(&mLink, &HostLink::received, this, &TutorialSession::onReceived);
     connect(&mLink, &HostLink::failed, this, [this](const QString& reason) {
         mPlayer.stop();
+        mPreview.reset();
         mStarted = false;
+        mWhenConnected = nullptr;
         emit failed(reason);
     });
 
@@ -95,7 +106,7 @@ TutorialSession::TutorialSession(const QString& program, WindowRegistry& registr
         &TutorialSession::onApplicationStateChanged);
 }
 
-bool TutorialSession::play(const QString& path)
+bool TutorialSession::play(const QString& path, const QList<int>& first)
 {
     stop();
     QJsonArray steps;
@@ -103,25 +114,57 @@ bool TutorialSession::play(const QString& path)
     TutorialEditor::readScenarioFile(path, &steps, &errors);
     for (const QString& error : qAsConst(errors))
         emit notice(error);
-    if (steps.isEmpty()) {
+    mScenario = Scenario::fromJson(steps);
+    const int index = mScenario.indexOf(first);
+    if (index < 0) {
         emit notice(tr("There is no scenario to play in “%1”.").arg(path));
         return false;
     }
-    mScenario = Scenario::fromJson(steps);
     mContext = QFileInfo(path).completeBaseName();
     mRegistry.forgetResults();
-    if (mLink.isConnected())
-        mPlayer.start(mScenario);
-    else
-        mLink.open();
+    whenConnected([this, index] { mPlayer.start(mScenario, index); });
     return true;
 }
 
 void TutorialSession::stop()
 {
     mPlayer.stop();
+    mPreview.reset();
     sendUnlessIdle({QStringLiteral("stop")});
     mStarted = false;
+}
+
+void TutorialSession::show(const Step& step)
+{
+    mPreview = step;
+    sendStep(step);
+}
+
+void TutorialSession::pointAt(const Step& step)
+{
+    mPreview = step;
+    sendPoint(step);
+}
+
+void TutorialSession::whenConnected(const std::function<void()>& task)
+{
+    if (mLink.isConnected()) {
+        task();
+        return;
+    }
+    mWhenConnected = task;
+    mLink.open();
+}
+
+QPoint TutorialSession::originOf(EnumWindowKind window) const
+{
+    if (window == WindowKindCount)
+        return {};
+    // A target in the map tree is given relative to the panel around it.
+    const EnumWindowKind origin =
+        window == Window_MapEditTreeBox ? Window_MapEditLeftPanelItem : window;
+    const auto& positions = mRegistry.positions();
+    return positions.value(origin, positions.value(Window_MainWindow));
 }
 
 QPoint TutorialSession::targetOf(const Step& step) const
@@ -132,10 +175,7 @@ QPoint TutorialSession::targetOf(const Step& step) const
             window = mRegistry.window(Window_MainWindow);
         return window ? window->mapToGlobal(window->rect().center()) : QPoint();
     }
-    // A target in the map tree is given relative to the panel around it.
-    const EnumWindowKind origin =
-        step.window == Window_MapEditTreeBox ? Window_MapEditLeftPanelItem : step.window;
-    return mRegistry.positions().value(origin) + *step.point;
+    return originOf(step.window) + *step.point;
 }
 
 QPoint TutorialSession::sentPointOf(const Step& step) const
@@ -147,13 +187,13 @@ void TutorialSession::onReceived(const QStringList& fields)
 {
     static const QStringList kAnswers = {
         QStringLiteral("next"), QStringLiteral("yes"), QStringLiteral("no")};
-    if (!kAnswers.contains(fields.first()))
+    if (!mPlayer.isPlaying() || !kAnswers.contains(fields.first()))
         return;
     mPlayer.onAnswer(fields.first());
     // The click may have taken the activation to the tutorial's button.
     mReclaimTimer.start();
     if (QGuiApplication::applicationState() != Qt::ApplicationActive)
-        activateTopWindow();
+        activate();
 }
 
 void TutorialSession::onApplicationStateChanged(Qt::ApplicationState state)
@@ -165,7 +205,7 @@ void TutorialSession::onApplicationStateChanged(Qt::ApplicationState state)
     }
     mHideTimer.start();
     if (mReclaimTimer.isActive())
-        activateTopWindow();
+        activate();
 }
 
 void TutorialSession::setMinimized(bool on)
@@ -179,8 +219,10 @@ void TutorialSession::setMinimized(bool on)
         sendUnlessIdle({QStringLiteral("state"), QStringLiteral("hide")});
         sendUnlessIdle({QStringLiteral("stop")});
         mStarted = false;
-    } else if (mPlayer.isPlaying() && mPlayer.isShown()) {
-        sendStep(mPlayer.step());
+    } else if (mPreview) {
+        sendPoint(*mPreview);
+    } else if (const auto step = stepOnShow()) {
+        sendStep(*step);
     }
 }
 
@@ -190,10 +232,7 @@ void TutorialSession::sendStep(const Step& step)
         return;
     // In one packet, so that the tutorial has a text and a target from the
     // first picture that it paints.
-    QVector<QStringList> messages;
-    if (!mStarted)
-        messages = startMessages();
-    mStarted = true;
+    QVector<QStringList> messages = startMessages();
     const QPoint offset = step.point.value_or(QPoint(kNoCoordinate, kNoCoordinate));
     messages << QStringList{QStringLiteral("indicator"), QStringLiteral("update"),
         QString::number(offset.x()), QString::number(offset.y()), QString::number(step.window),
@@ -203,8 +242,22 @@ void TutorialSession::sendStep(const Step& step)
     mLink.send(messages);
 }
 
+void TutorialSession::sendPoint(const Step& step)
+{
+    if (!mMinimized)
+        mLink.send(startMessages() << xyMessage(sentPointOf(step)));
+}
+
+std::optional<Step> TutorialSession::stepOnShow() const
+{
+    return mPlayer.isPlaying() && mPlayer.isShown() ? mPlayer.step() : mPreview;
+}
+
 QVector<QStringList> TutorialSession::startMessages()
 {
+    if (mStarted)
+        return {};
+    mStarted = true;
     const QWidget* top = mRegistry.topWindow();
     const QScreen* screen = top ? top->screen() : QGuiApplication::primaryScreen();
     const QRect area = screen->availableGeometry();
@@ -217,8 +270,10 @@ QVector<QStringList> TutorialSession::startMessages()
     const auto& positions = mRegistry.positions();
     for (auto it = positions.begin(); it != positions.end(); ++it)
         messages << positionMessage(it.key(), it.value());
-    // The first start takes the activation.
-    mReclaimTimer.start();
+    // The first start takes the activation; the author's may stay in the
+    // editor.
+    if (mPlayer.isPlaying())
+        mReclaimTimer.start();
     return messages;
 }
 
@@ -228,7 +283,7 @@ void TutorialSession::sendUnlessIdle(const QStringList& message)
         mLink.send({message});
 }
 
-void TutorialSession::activateTopWindow()
+void TutorialSession::activate()
 {
     const QList<EnumWindowKind>& stack = mRegistry.stack();
     for (int i = stack.size() - 1; i >= 0; --i) {

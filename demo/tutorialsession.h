@@ -9,10 +9,14 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
+#include <optional>
+
 class WindowRegistry;
 
-// Plays tutorials for the host's windows: puts the player, the picture of the
-// windows and the link to the tutorial together.
+// Plays tutorials for the host's windows, or shows a single step to its author:
+// puts the player, the picture of the windows and the link to the tutorial
+// together.
 class TutorialSession : public QObject {
     Q_OBJECT
 
@@ -23,11 +27,33 @@ public:
 
     const ScenarioPlayer& player() const { return mPlayer; }
     const HostLink& link() const { return mLink; }
+    const HostObserver& observer() const { return mObserver; }
 
-    // Plays the scenario file from its start. What is wrong with the file is
-    // reported as a notice; false when there is nothing to play.
-    bool play(const QString& path);
+    // Plays the scenario file from the first step at or below this path; an
+    // empty path is the whole file. What is wrong with the file is reported as a
+    // notice; false when there is nothing to play.
+    bool play(const QString& path, const QList<int>& first = {});
     void stop();
+
+    // Shows the step without playing it, until play() or stop(): its arrow
+    // follows its window, and nothing ends it.
+    void show(const Step& step);
+    // The same, but what stands beside the arrow stays as it is.
+    void pointAt(const Step& step);
+
+    // Does the task with a running tutorial, which is started when there is
+    // none. A tutorial that cannot be started does not get the task, nor does
+    // one that is given another task before it has connected.
+    void whenConnected(const std::function<void()>& task);
+    // Without a running tutorial the message is dropped.
+    void send(const QStringList& message) { mLink.send({message}); }
+    // Brings the host's front window before the tutorial's windows.
+    void activate();
+
+    // The screen point from which the offsets in this window count: where it
+    // stands, or the main window while it is not open. The screen's own when
+    // it is no window.
+    QPoint originOf(Tutorial::EnumWindowKind window) const;
     // The screen point at which the step's arrow points, or in whose middle
     // its hint stands when it has no target.
     QPoint targetOf(const Step& step) const;
@@ -50,10 +76,13 @@ private:
     // Shows or hides the tutorial with the main window.
     void setMinimized(bool on);
     void sendStep(const Step& step);
-    // What begins a tutorial: the area and the windows as they are.
+    void sendPoint(const Step& step);
+    // The step that the arrow follows: the one that is played, or the author's.
+    std::optional<Step> stepOnShow() const;
+    // What begins a tutorial: the area and the windows as they are. Nothing
+    // when it has begun.
     QVector<QStringList> startMessages();
     void sendUnlessIdle(const QStringList& message);
-    void activateTopWindow();
 
     WindowRegistry& mRegistry;
     HostObserver mObserver;
@@ -62,6 +91,9 @@ private:
     Scenario mScenario;
     // Translation context of the scenario's hints: its file's base name.
     QString mContext;
+    std::function<void()> mWhenConnected;
+    // Shown to its author; none while a scenario is played.
+    std::optional<Step> mPreview;
     // "start" was sent, and no "stop" since.
     bool mStarted = false;
     bool mMinimized = false;

@@ -90,7 +90,7 @@ void WindowRegistry::onShown(EnumWindowKind kind, QWidget* window)
     }
     updatePositions();
     emit opened(kind, window);
-    emit changed();
+    emit changed(kind);
 }
 
 void WindowRegistry::onHidden(EnumWindowKind kind, const QWidget* window)
@@ -113,13 +113,13 @@ void WindowRegistry::onHidden(EnumWindowKind kind, const QWidget* window)
             emit pushed(other);
         }
     }
-    emit changed();
+    emit changed(kind);
 }
 
 void WindowRegistry::setResult(EnumWindowKind kind, const QString& result)
 {
     mResults.insert(kind, result);
-    emit changed();
+    emit changed(kind);
 }
 
 void WindowRegistry::updatePositions()

@@ -47,8 +47,8 @@ signals:
     // The last entry of the stack is gone.
     void popped();
     void moved(Tutorial::EnumWindowKind kind, const QPoint& position);
-    // The state of some window is another one.
-    void changed();
+    // The state of the window is another one.
+    void changed(Tutorial::EnumWindowKind kind);
     // The window was minimised, or is back.
     void minimized(Tutorial::EnumWindowKind kind, bool on);
 

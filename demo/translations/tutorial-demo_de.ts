@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Authoring</name>
+    <message>
+        <source>The condition is “%1”.</source>
+        <translation>Die Bedingung ist „%1“.</translation>
+    </message>
+    <message>
+        <source>The point is %1, %2.</source>
+        <translation>Der Punkt ist %1, %2.</translation>
+    </message>
+    <message>
+        <source>No point was picked.</source>
+        <translation>Es wurde kein Punkt gewählt.</translation>
+    </message>
+    <message>
+        <source>No tutorial is being edited.</source>
+        <translation>Es wird keine Einführung bearbeitet.</translation>
+    </message>
+    <message>
+        <source>Do now what the step is to wait for.</source>
+        <translation>Tun Sie jetzt, worauf der Schritt warten soll.</translation>
+    </message>
+    <message>
+        <source>Click the point that the step shows; Escape leaves it as it is.</source>
+        <translation>Klicken Sie auf den Punkt, den der Schritt zeigt; Escape lässt ihn, wie er ist.</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+</context>
+<context>
     <name>Condition</name>
     <message>
         <source>unknown condition “%1”</source>
@@ -404,6 +435,30 @@
     <message>
         <source>A small map editor that shows how a host drives the tutorial.</source>
         <translation>Ein kleiner Karteneditor, der zeigt, wie ein Programm die Einführung steuert.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>New &amp;Tutorial…</source>
+        <translation>Neue &amp;Einführung …</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Tutorial…</source>
+        <translation>Einführung bea&amp;rbeiten …</translation>
+    </message>
+    <message>
+        <source>&amp;Record Condition</source>
+        <translation>Bedingung auf&amp;nehmen</translation>
+    </message>
+    <message>
+        <source>New Tutorial</source>
+        <translation>Neue Einführung</translation>
+    </message>
+    <message>
+        <source>Edit Tutorial</source>
+        <translation>Einführung bearbeiten</translation>
     </message>
 </context>
 <context>

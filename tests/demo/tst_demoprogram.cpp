@@ -51,6 +51,9 @@ void tst_DemoProgram::wrongUsage_data()
     row("--language tlh");
     row("--play first-steps --autoplay first-steps");
     row("--screenshots /tmp");
+    row("--edit /tmp");
+    row("--edit no-such-file.js");
+    row("--play first-steps --edit README.md");
 }
 
 void tst_DemoProgram::wrongUsage()

@@ -4,12 +4,16 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDialogButtonBox>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QtTest>
 
 using namespace Tutorial;
+
+Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 
 // The editor's real windows, seen through the registry and the observer.
 class tst_HostWindows : public QObject {
@@ -27,6 +31,8 @@ private slots:
     void contextMenus();
     void buttonsAreCountedByTab();
     void actions();
+    void asksBeforeItOverwrites_data();
+    void asksBeforeItOverwrites();
 
 private:
     template <typename Control>
@@ -271,6 +277,45 @@ void tst_HostWindows::actions()
     QVERIFY(!mWindow->loadPreset(QStringLiteral("nothing")));
     QVERIFY(mWindow->loadPreset(QStringLiteral("empty")));
     QVERIFY(takeEvents().contains(QStringLiteral("action,Project Loaded")));
+}
+
+void tst_HostWindows::asksBeforeItOverwrites_data()
+{
+    QTest::addColumn<bool>("exists");
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::addColumn<int>("requests");
+    QTest::newRow("new") << false << QMessageBox::NoButton << 1;
+    QTest::newRow("keep") << true << QMessageBox::No << 0;
+    QTest::newRow("overwrite") << true << QMessageBox::Yes << 1;
+}
+
+// Also when the author leaves the suffix to the dialog.
+void tst_HostWindows::asksBeforeItOverwrites()
+{
+    QFETCH(bool, exists);
+    QFETCH(QMessageBox::StandardButton, answer);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("lesson.js")));
+    QVERIFY(!exists || file.open(QIODevice::WriteOnly));
+    QSignalSpy requests(mWindow.get(), &MainWindow::newTutorialRequested);
+
+    auto* dialog = qobject_cast<QFileDialog*>(openDialog("New Tutorial", Window_FileDialog));
+    QVERIFY(dialog);
+    dialog->setDirectory(folder.path());
+    find<QLineEdit>("fileNameEdit", dialog)->setText(QStringLiteral("lesson"));
+    int questions = 0;
+    QTimer::singleShot(0, this, [&] {
+        if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            ++questions;
+            question->button(answer)->click();
+        }
+    });
+    find<QDialogButtonBox>("buttonBox", dialog)->button(QDialogButtonBox::Save)->click();
+    QTRY_COMPARE(questions, int(exists));
+    QTEST(requests.size(), "requests");
+    if (!requests.isEmpty())
+        QCOMPARE(requests.first().first().toString(), file.fileName());
+    dialog->close();
 }
 
 QTEST_MAIN(tst_HostWindows)

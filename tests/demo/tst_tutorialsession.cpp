@@ -1,8 +1,8 @@
 #include "demo/mainwindow.h"
 #include "demo/tutorialsession.h"
 #include "demo/windowregistry.h"
+#include "tests/demo/faketutorial.h"
 
-#include <QLocalSocket>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -10,31 +10,6 @@
 using namespace Tutorial;
 
 namespace {
-
-const char kRecordVariable[] = "TST_TUTORIALSESSION_RECORD";
-
-// This program as a tutorial that writes down what it is sent: a packet a
-// line, its messages separated by "; " and their fields by blanks.
-int record(const QString& connectionId)
-{
-    QFile file(qEnvironmentVariable(kRecordVariable));
-    QLocalSocket socket;
-    socket.connectToServer(QStringLiteral("vemo") + connectionId);
-    if (!file.open(QIODevice::WriteOnly) || !socket.waitForConnected())
-        return 1;
-    QByteArray received;
-    while (socket.waitForReadyRead()) {
-        received += socket.readAll();
-        for (int end = 0; (end = received.indexOf('\0')) >= 0; received.remove(0, end + 1)) {
-            const QByteArray packet = received.mid(2, end - 2);
-            file.write(QByteArray(packet).replace("\2", "; ").replace('\1', ' ') + '\n');
-            file.flush();
-            if (packet == "bye")
-                return 0;
-        }
-    }
-    return 0;
-}
 
 QString xy(const QPoint& point)
 {
@@ -58,9 +33,9 @@ private slots:
 
 private:
     bool play(const QByteArray& steps);
-    // Packets that were sent, without "alive".
-    QStringList packets() const;
+    QStringList packets() const { return mTutorial->packets(); }
 
+    std::unique_ptr<FakeTutorial> mTutorial;
     std::unique_ptr<QTemporaryDir> mFolder;
     std::unique_ptr<WindowRegistry> mRegistry;
     std::unique_ptr<MainWindow> mWindow;
@@ -70,7 +45,7 @@ private:
 void tst_TutorialSession::init()
 {
     mFolder = std::make_unique<QTemporaryDir>();
-    qputenv(kRecordVariable, mFolder->filePath(QStringLiteral("record")).toUtf8());
+    mTutorial = std::make_unique<FakeTutorial>();
     mRegistry = std::make_unique<WindowRegistry>();
     mWindow = std::make_unique<MainWindow>(*mRegistry);
     mSession =
@@ -96,17 +71,6 @@ bool tst_TutorialSession::play(const QByteArray& steps)
     file.close();
     return mSession->play(file.fileName())
         && QTest::qWaitFor([this] { return !packets().isEmpty(); }, 20000);
-}
-
-QStringList tst_TutorialSession::packets() const
-{
-    QFile file(qEnvironmentVariable(kRecordVariable));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-    lines.removeLast();
-    lines.removeAll(QStringLiteral("alive"));
-    return lines;
 }
 
 // The stack and the positions are there before the first target, and no arrow
@@ -194,18 +158,12 @@ void tst_TutorialSession::stopsAtTheEnd()
     QTRY_COMPARE(finished.size(), 1);
     QTRY_COMPARE(packets().last(), QStringLiteral("stop"));
     mSession.reset();
-    QCOMPARE(packets().last(), QStringLiteral("bye"));
+    QTRY_COMPARE(packets().last(), QStringLiteral("bye"));
 }
 
 int main(int argc, char** argv)
 {
-    if (argc == 2 && qEnvironmentVariableIsSet(kRecordVariable)) {
-        QCoreApplication application(argc, argv);
-        return record(QString::fromLocal8Bit(argv[1]));
-    }
-    QApplication application(argc, argv);
-    tst_TutorialSession test;
-    return QTest::qExec(&test, argc, argv);
+    return FakeTutorial::runTest<tst_TutorialSession>(argc, argv);
 }
 
 #include "tst_tutorialsession.moc"

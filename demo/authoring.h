@@ -1,0 +1,59 @@
+#pragma once
+
+#include "demo/conditionrecorder.h"
+#include "demo/pointpicker.h"
+#include "demo/scenario.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class TutorialSession;
+class WindowRegistry;
+
+// The host's half of the authoring tool: opens a scenario file in the
+// tutorial's editor, shows where the step at work will stand, and answers what
+// the editor asks for.
+class Authoring : public QObject {
+    Q_OBJECT
+
+public:
+    // Both outlive this one.
+    Authoring(TutorialSession& session, const WindowRegistry& registry, QObject* parent = nullptr);
+
+    // Writes a scenario of one step, for the author to begin with, over what
+    // the path holds. False when it cannot be written.
+    static bool writeStarter(const QString& path);
+
+    // Opens the file in the editor, and ends what is played.
+    void edit(const QString& path);
+    // Sends the condition that the author's next action would meet to the step
+    // at work.
+    void recordCondition();
+    // Ends a trial run; without one, takes the arrow off the screen until the
+    // editor points at something again.
+    void stop();
+
+signals:
+    void notice(const QString& text);
+
+private:
+    void onReceived(const QStringList& fields);
+    // fields: x, y and the window kind of the step at work.
+    void follow(const QStringList& fields);
+    void lookUp(const QString& key, const QString& text);
+    void tryOut(const QStringList& path);
+    void endTrial();
+    void pickPoint();
+    QString describe(const QWidget& widget, const QPoint& point) const;
+
+    TutorialSession& mSession;
+    const WindowRegistry& mRegistry;
+    ConditionRecorder mRecorder;
+    PointPicker mPicker;
+    // The file that was opened last; empty when no editor is there.
+    QString mPath;
+    // The step at work as far as the host knows it: at least where it points.
+    Step mStep;
+    bool mOnTrial = false;
+};
