@@ -186,7 +186,7 @@ QString Authoring::describe(const QWidget& widget, const QPoint& point) const
         parts << nameOf(windows.first());
     parts << PointPicker::nameOf(widget);
     // The offset counts from the window of the step, wherever the cursor is.
-    if (!windows.contains(mStep.window))
+    if (windows.value(0, WindowKindCount) != mStep.window)
         parts << nameOf(mStep.window);
     const QPoint offset = point - mSession.originOf(mStep.window);
     parts << QStringLiteral("%1, %2").arg(offset.x()).arg(offset.y());

@@ -182,12 +182,12 @@ int main(int argc, char** argv)
             if (!window.loadPreset(name))
                 window.showNotice(MainWindow::tr("There is no data “%1”.").arg(name));
         });
-    const auto complainTo = [&](const QString& line) {
+    const auto report = [&](const QString& line) {
         tell(line);
         window.showNotice(line);
     };
     for (const auto text : {&TutorialSession::notice, &TutorialSession::failed})
-        QObject::connect(&session, text, &window, complainTo);
+        QObject::connect(&session, text, &window, report);
     QObject::connect(&session, &TutorialSession::finished, &window,
         [&] { window.showNotice(MainWindow::tr("You have finished the tutorial.")); });
     QObject::connect(&window, &MainWindow::tutorialRequested, &session,
@@ -201,7 +201,7 @@ int main(int argc, char** argv)
             if (Authoring::writeStarter(path))
                 authoring.edit(path);
             else
-                complainTo(MainWindow::tr("“%1” cannot be written.").arg(path));
+                report(MainWindow::tr("“%1” cannot be written.").arg(path));
         });
     // The menu's own action is over by then.
     QObject::connect(&window, &MainWindow::recordRequested, &authoring, &Authoring::recordCondition,

@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation>&amp;Abbrechen</translation>
+        <translation>Ab&amp;brechen</translation>
     </message>
     <message>
         <source>Draw the &amp;Map</source>

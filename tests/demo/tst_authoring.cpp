@@ -69,6 +69,7 @@ private slots:
     void pointsAtTheStepAtWork_data();
     void pointsAtTheStepAtWork();
     void staysWithTheWindow();
+    void minimising();
     void looksTextsUp_data();
     void looksTextsUp();
     void triesTheFileOut_data();
@@ -210,6 +211,17 @@ void tst_Authoring::staysWithTheWindow()
     report({1, 2}, Window_MainWindow);
     QTRY_VERIFY(lastPacket().startsWith(QLatin1String("start ")));
     QVERIFY(lastPacket().endsWith(xy(mWindow->mapToGlobal({1, 2}))));
+    QVERIFY(!lastPacket().contains(QLatin1String("indicator update ")));
+}
+
+void tst_Authoring::minimising()
+{
+    report({1, 2}, Window_MainWindow);
+    mWindow->showMinimized();
+    QTRY_COMPARE(lastPacket(), QStringLiteral("stop"));
+    mWindow->showNormal();
+    QTRY_VERIFY(lastPacket().startsWith(QLatin1String("start ")));
+    // The hint is still the one that the editor shows.
     QVERIFY(!lastPacket().contains(QLatin1String("indicator update ")));
 }
 
