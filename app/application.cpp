@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "editor/hostmessages.h"
+#include "editor/manager.h"
 #include "tutorial/tutorialmanager.h"
 
 #include <QApplication>
@@ -50,6 +51,8 @@ int runApplication(int argc, char** argv)
     manager->init();
     const TutorialEditor::HostMessages hostMessages(manager);
     const int exitCode = QApplication::exec();
+    if (TutorialEditor::Manager::mInstance)
+        TutorialEditor::Manager::mInstance->keepUnsaved();
     deleteWindows();
     return exitCode;
 }

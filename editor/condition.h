@@ -31,6 +31,8 @@ struct ConditionParameter {
     ParameterView view = ParameterView::None;
     // What the field gets when the kind is chosen; null leaves it as it is.
     const char* byDefault = nullptr;
+    // For the author, to be translated in the dialog's context; null for a box.
+    const char* meaning = nullptr;
 };
 
 using ConditionParameters = std::array<ConditionParameter, 3>;

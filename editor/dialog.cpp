@@ -285,9 +285,9 @@ QWidget* Dialog::createForm()
         createBox("hostAction", hostActions(), tr("The action that has to be chosen")),
     };
     mParameters = {
-        named(new QLineEdit, "parameter1", tr("The first parameter of the condition")),
-        named(new QLineEdit, "parameter2", tr("The second parameter of the condition")),
-        named(new QLineEdit, "parameter3", tr("The third parameter of the condition")),
+        named(new QLineEdit, "parameter1", QString()),
+        named(new QLineEdit, "parameter2", QString()),
+        named(new QLineEdit, "parameter3", QString()),
     };
     mCondition->setMinimumContentsLength(kConditionCharacters);
     auto* conditionLabel = new QLabel(tr("condition:"));

@@ -53,6 +53,8 @@ public:
     void setContents(const QString& text, const QStringList& errors = QStringList());
     // The list, in file form, that counts as saved.
     void setLastJson(const QString& json);
+    // Whether the scenario is as it was loaded or saved last.
+    bool isSaved() const;
     // Asks about unsaved changes, if there are any. withNo: whether going on
     // without saving is one of the answers. False when the author cancelled or
     // the scenario could not be written.
@@ -144,9 +146,6 @@ private:
     void checkTreeBox() const;
     // Points the overlay at the step in the form; x, y: kNoCoordinate for none.
     void pointIndicator(int x, int y) const;
-
-    // Whether a list in file form is what was loaded or saved last.
-    bool isSaved(const QString& json) const;
 
     // Commands.
     // Whether the item in the form is one of these rows of a level, or below.

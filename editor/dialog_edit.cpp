@@ -192,6 +192,7 @@ void Dialog::adjustComboBox()
     for (std::size_t i = 0; i < parameters.size(); ++i) {
         const ParameterView view = parameters[i].view;
         mParameters[i]->setVisible(view == ParameterView::Field);
+        mParameters[i]->setToolTip(parameters[i].meaning ? tr(parameters[i].meaning) : QString());
         if (QComboBox* box = parameterBox(view)) {
             if (view == ParameterView::ConditionWindow)
                 EDITOR_DEBUG << "set: mComboBoxWindowKind = " << mParameters[i]->text();

@@ -88,15 +88,15 @@ void Dialog::setLastJson(const QString& json)
     mLastJson = digest(json);
 }
 
-bool Dialog::isSaved(const QString& json) const
+bool Dialog::isSaved() const
 {
-    return digest(json) == (mLastJson.isEmpty() ? digest(scenarioJson(mLoadedSteps)) : mLastJson);
+    return digest(getCurrentJson())
+        == (mLastJson.isEmpty() ? digest(scenarioJson(mLoadedSteps)) : mLastJson);
 }
 
 bool Dialog::checkSave(bool withNo)
 {
-    const QString json = getCurrentJson();
-    if (isSaved(json))
+    if (isSaved())
         return true;
     QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::Cancel;
     if (withNo)
@@ -106,7 +106,7 @@ bool Dialog::checkSave(bool withNo)
         return true;
     if (answer != QMessageBox::Yes)
         return false;
-    if (Manager::save(json))
+    if (Manager::save(getCurrentJson()))
         return true;
     QMessageBox::warning(nullptr, tr("Save"), tr("The scenario could not be saved."));
     return false;

@@ -115,6 +115,15 @@ bool Manager::checkSave(bool ask)
     return !mDialog || mDialog->checkSave(ask);
 }
 
+void Manager::keepUnsaved() const
+{
+    if (!mDialog || mPath.isEmpty() || mDialog->isSaved())
+        return;
+    const QString path = mPath + QLatin1String(".unsaved");
+    const bool isWritten = writeScenarioFile(path, mDialog->getCurrentJson());
+    EDITOR_DEBUG << path << isWritten;
+}
+
 void Manager::clearDialog()
 {
     EDITOR_DEBUG_NUMBER(154);

@@ -39,6 +39,9 @@ public:
     // Asks about unsaved changes. ask: whether closing without saving is one of
     // the answers. False when the author cancelled or saving failed.
     bool checkSave(bool ask);
+    // Writes unsaved changes beside the scenario's file, as <name>.unsaved: when
+    // the host has ended the process there is nobody left to ask.
+    void keepUnsaved() const;
     // Forgets the dialog, which is not deleted.
     void clearDialog();
 

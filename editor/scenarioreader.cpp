@@ -7,6 +7,9 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QTextCodec>
+#include <QVector>
+
+#include <algorithm>
 
 using namespace TutorialEditor;
 
@@ -102,22 +105,33 @@ QString TutorialEditor::removeComments(const QString& text)
     return indexOfPair(lines, '/', '/') != -1 ? removeLineComments(lines) : lines;
 }
 
-QString TutorialEditor::removeMarkers(QString text)
+QString TutorialEditor::removeMarkers(const QString& text)
 {
     static const QString kHead = QStringLiteral("var scenario = [");
     static const QString kTail = QStringLiteral("];");
 
+    // Without the markers' brackets, which stay.
+    QVector<QPair<int, int>> removed;
     const int head = findMarker(text, kHead);
     if (head < text.size())
-        text.replace(head, kHead.size(), QLatin1Char('['));
+        removed.append({head, head + kHead.size() - 1});
 
     // What closes the text is in no string.
     int tail = indexOfPair(text, ']', ';');
     if (tail != -1 && !text.midRef(tail + kTail.size()).trimmed().isEmpty())
         tail = findMarker(text, kTail);
     if (tail != -1 && tail < text.size())
-        text.replace(tail, kTail.size(), QLatin1Char(']'));
-    return text;
+        removed.append({tail + 1, tail + kTail.size()});
+
+    std::sort(removed.begin(), removed.end());
+    QString result;
+    result.reserve(text.size());
+    int copied = 0;
+    for (const QPair<int, int>& range : qAsConst(removed)) {
+        result += text.midRef(copied, range.first - copied);
+        copied = range.second;
+    }
+    return result += text.midRef(copied);
 }
 
 QJsonArray TutorialEditor::parseSteps(const QString& text, QStringList* errors)

@@ -20,7 +20,7 @@ QString removeComments(const QString& text);
 
 // Without the first "var scenario = " before a "[" and the first ";" after a
 // "]", again not inside of strings; text around them stays.
-QString removeMarkers(QString text);
+QString removeMarkers(const QString& text);
 
 // The steps in a JSON text; empty, with one more error, when it is no array.
 QJsonArray parseSteps(const QString& text, QStringList* errors);

@@ -287,6 +287,11 @@ void tst_HostMessages::byeEndsAnOpenQuestion()
     QVERIFY(!mManager);
     QVERIFY(!QApplication::activeModalWidget());
     QCOMPARE(scenario.fileText(), scenarioText(QStringLiteral("a")));
+    // Nobody was asked in the end.
+    Manager::mInstance->keepUnsaved();
+    QFile kept(scenario.path() + QLatin1String(".unsaved"));
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(kept.readAll()), scenarioText(QStringLiteral("b")));
 }
 
 int main(int argc, char** argv)
