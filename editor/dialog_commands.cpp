@@ -1,6 +1,7 @@
 #include "editor/dialog.h"
 
 #include "editor/debuglog.h"
+#include "editor/errorbox.h"
 #include "editor/model.h"
 #include "editor/scenarioreader.h"
 #include "editor/scenariowriter.h"
@@ -157,9 +158,7 @@ void Dialog::onPasteTriggered()
     if (errors.isEmpty() && !anchor->isEndMarker())
         mModel->insertJsonRow(
             mModel->levelOf(anchor), anchor->row(), anchor->depth(), steps, &errors, true);
-    if (!errors.isEmpty())
-        QMessageBox::question(
-            nullptr, tr("Parse error"), errors.join(QLatin1Char('\n')), QMessageBox::Ok);
+    showErrors(tr("Parse error"), errors);
 }
 
 void Dialog::onGroupingTriggered()

@@ -2,6 +2,7 @@
 
 #include "editor/debuglog.h"
 #include "editor/dialog.h"
+#include "editor/errorbox.h"
 #include "editor/savecheck.h"
 #include "editor/scenarioreader.h"
 #include "editor/scenariowriter.h"
@@ -68,8 +69,8 @@ bool Manager::save(const QString& json)
 
     // A scenario that cannot be read again, because of a half-typed translation
     // say, must not take the place of the one that can.
-    const QString problem = findUnreadableStep(json, manager->mDialog->getCurrentSteps());
-    if (!problem.isEmpty() && !keepFormerFile(path)) {
+    const QStringList problems = findUnreadable(json, manager->mDialog->getCurrentSteps());
+    if (!problems.isEmpty() && !keepFormerFile(path)) {
         EDITOR_DEBUG_NUMBER(130) << "no copy of the former file";
         return false;
     }
@@ -79,11 +80,11 @@ bool Manager::save(const QString& json)
     }
     manager->mDialog->setLastJson(json);
     EDITOR_DEBUG_NUMBER(149);
-    if (!problem.isEmpty())
+    if (!problems.isEmpty())
         QMessageBox::warning(nullptr, tr("Save"),
             tr("The scenario was saved, but it cannot be read again as it is. "
                "The former file was kept as %1.bak.\n\n%2")
-                .arg(path, problem));
+                .arg(path, errorText(problems)));
     return true;
 }
 

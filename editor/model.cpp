@@ -1,6 +1,7 @@
 #include "editor/model.h"
 
 #include "editor/debuglog.h"
+#include "editor/errorbox.h"
 #include "editor/manager.h"
 #include "editor/scenarioreader.h"
 #include "editor/stepfields.h"
@@ -9,7 +10,6 @@
 
 #include <QIcon>
 #include <QJsonArray>
-#include <QMessageBox>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -132,9 +132,7 @@ void Model::setContents(const QString& text, QStringList errors)
     endResetModel();
 
     // The box runs an event loop, so the change is over before.
-    if (!errors.isEmpty())
-        QMessageBox::question(
-            nullptr, tr("Parse error"), errors.join(QLatin1Char('\n')), QMessageBox::Ok);
+    showErrors(tr("Parse error"), errors);
 }
 
 void Model::insertJsonRow(QStandardItem* parent, int row, int depth, const QJsonArray& steps,

@@ -38,15 +38,15 @@ QString firstDifference(const QJsonArray& steps, const QJsonArray& read)
 
 } // namespace
 
-QString TutorialEditor::findUnreadableStep(const QString& json, const QJsonArray& steps)
+QStringList TutorialEditor::findUnreadable(const QString& json, const QJsonArray& steps)
 {
     QStringList errors;
     const QString text = removeMarkers(removeComments(scenarioFileText(json)));
     const QJsonArray read = parseSteps(escapeTranslationForJson(text, &errors), &errors);
     if (!errors.isEmpty())
-        return errors.join(QLatin1Char('\n'));
+        return errors;
     if (scenarioJson(read) == json)
-        return QString();
-    return Message::tr("Step %1 would be read as something else.")
-        .arg(firstDifference(steps, read));
+        return QStringList();
+    return {
+        Message::tr("Step %1 would be read as something else.").arg(firstDifference(steps, read))};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 class QJsonArray;
 
@@ -9,6 +9,6 @@ namespace TutorialEditor {
 // Whether the reader gives back the scenario that is about to be written: empty
 // when it does, else what cannot be read, and in which step, for the author.
 // json: the list in file form; steps: what was written there.
-QString findUnreadableStep(const QString& json, const QJsonArray& steps);
+QStringList findUnreadable(const QString& json, const QJsonArray& steps);
 
 } // namespace TutorialEditor

@@ -12,6 +12,7 @@ private slots:
     void loadsIconsTextsAndDepths();
     void reportsWhatItCannotRead_data();
     void reportsWhatItCannotRead();
+    void longErrorsAreShortened();
     void everyLevelEndsWithAMarker();
     void findsItemsByTheirRows();
     void removesOnlyTheTopItems();
@@ -83,6 +84,15 @@ void tst_Model::reportsWhatItCannotRead()
     QCOMPARE(scenario.rows(), rows);
     // What was not read does not count as a change.
     QVERIFY(scenario.dialog()->checkSave(true));
+}
+
+// An error may hold the rest of the file: a box with all of it took a minute.
+void tst_Model::longErrorsAreShortened()
+{
+    ModalBoxes boxes(QMessageBox::Ok);
+    OpenScenario scenario(QString(1000000, QLatin1Char('"')));
+    QVERIFY(boxes.isDone());
+    QVERIFY(boxes.seen().first().size() < 3000);
 }
 
 void tst_Model::everyLevelEndsWithAMarker()
