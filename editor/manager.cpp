@@ -48,6 +48,7 @@ void Manager::setContents(const QString& path)
     EDITOR_DEBUG_NUMBER(48) << path;
     Manager* manager = ensure();
     manager->mPath = path;
+    manager->mIsUnreadable = false;
     manager->mDialog->setWindowTitle(titleOf(path));
     QString text;
     QStringList errors;
@@ -68,9 +69,9 @@ bool Manager::save(const QString& json)
         return false;
 
     // A scenario that cannot be read again, because of a half-typed translation
-    // say, must not take the place of the one that can.
+    // say, must not take the place of the last one that can.
     const QStringList problems = findUnreadable(json, manager->mDialog->getCurrentSteps());
-    if (!problems.isEmpty() && !keepFormerFile(path)) {
+    if (!problems.isEmpty() && !manager->mIsUnreadable && !keepFormerFile(path)) {
         EDITOR_DEBUG_NUMBER(130) << "no copy of the former file";
         return false;
     }
@@ -78,6 +79,7 @@ bool Manager::save(const QString& json)
         EDITOR_DEBUG_NUMBER(130);
         return false;
     }
+    manager->mIsUnreadable = !problems.isEmpty();
     manager->mDialog->setLastJson(json);
     EDITOR_DEBUG_NUMBER(149);
     if (!problems.isEmpty())

@@ -51,6 +51,7 @@ private:
 
     QPointer<Dialog> mDialog;
     QString mPath;
+    bool mIsUnreadable = false; // what save() wrote there last
 };
 
 // The picture of an icon kind; empty for a value that is none.
