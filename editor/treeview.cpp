@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -36,10 +37,26 @@ const KeyCommand kKeyCommands[] = {
     {Qt::Key_I, Qt::ControlModifier, nullptr, &TreeView::ungroupingTriggered},
 };
 
+constexpr int kRowMargin = 2; // px
+
+// All rows are as high as one with an icon, the first one, which may be a group
+// without, included.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize rowWithIcon(0, option.decorationSize.height() + kRowMargin);
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo(rowWithIcon);
+    }
+};
+
 } // namespace
 
 TreeView::TreeView(QWidget* parent) : QTreeView(parent)
 {
+    setItemDelegate(new RowDelegate(this));
     setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
 
