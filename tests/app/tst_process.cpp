@@ -20,7 +20,6 @@ class tst_Process : public QObject {
 
 private slots:
     void emptyConnectionId();
-    void connectionIdIsTheFirstArgument();
     void defaultConnectionId();
     void aliveEverySecond();
     void byeEndsIt_data();
@@ -36,13 +35,6 @@ void tst_Process::emptyConnectionId()
     QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
     QCOMPARE(host.process().exitCode(), 0);
     QCOMPARE(host.connections(), 0);
-}
-
-void tst_Process::connectionIdIsTheFirstArgument()
-{
-    TestHost host;
-    QVERIFY(host.startProgram({host.connectionId(), TestHost::randomId()}));
-    QTRY_COMPARE_WITH_TIMEOUT(host.connections(), 1, kDeadlineMs);
 }
 
 void tst_Process::defaultConnectionId()

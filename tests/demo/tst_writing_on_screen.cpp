@@ -124,11 +124,13 @@ private slots:
     void stepsAreArranged();
     void scenarioIsSaved();
     void groupIsTriedOut();
+    void escapeAsksBeforeClosing();
     void learnerGetsToTheEnd();
 
 private:
     void selectInTree(const QString& keys);
     void write(const NewStep& step);
+    QJsonArray savedSteps() const;
 
     QTemporaryDir mFolder;
     QString mPath;
@@ -214,6 +216,14 @@ void tst_WritingOnScreen::write(const NewStep& step)
     QTest::qWait(500);
 }
 
+QJsonArray tst_WritingOnScreen::savedSteps() const
+{
+    QJsonArray steps;
+    QStringList errors;
+    TutorialEditor::readScenarioFile(mPath, &steps, &errors);
+    return errors.isEmpty() ? steps : QJsonArray();
+}
+
 void tst_WritingOnScreen::stepsAreWritten()
 {
     for (const NewStep& step : kSteps)
@@ -240,15 +250,14 @@ void tst_WritingOnScreen::scenarioIsSaved()
     press(QStringLiteral("alt+y"));
     QVERIFY(waitForWindow(QStringLiteral("^Save$"), false));
 
-    QJsonArray steps;
-    QStringList errors;
-    QVERIFY(TutorialEditor::readScenarioFile(mPath, &steps, &errors));
-    QCOMPARE(outline(steps),
+    QTRY_COMPARE_WITH_TIMEOUT(outline(savedSteps()),
         QStringLiteral("wait,1 click wait,1 mouseEvent,Map,click "
                        "[list,5 [windowState,Options,open checked,grid,0 "
                        "windowState,Options,close]] "
                        "[windowState,NewProject,open textLength,>=,3 "
-                       "windowState,NewProject,close] yesNo,,"));
+                       "windowState,NewProject,close] yesNo,,"),
+        kDeadlineMs);
+    const QJsonArray steps = savedSteps();
     const QJsonObject first = steps.first().toObject();
     QCOMPARE(first.value(QLatin1String("followWindow")).toString(), QStringLiteral("MainWindow"));
     QCOMPARE(first.value(QLatin1String("x")).toInt(), 705);
@@ -274,6 +283,25 @@ void tst_WritingOnScreen::groupIsTriedOut()
     QTest::qWait(500);
     click(dialog, 311, 238);
     QTRY_COMPARE_WITH_TIMEOUT(buttons(), 2, kDeadlineMs);
+}
+
+void tst_WritingOnScreen::escapeAsksBeforeClosing()
+{
+    QFile file(mPath);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray saved = file.readAll();
+    selectInTree(QStringLiteral("Home Delete Escape"));
+    QVERIFY(waitForWindow(QStringLiteral("^Save$")));
+    press(QStringLiteral("Escape"));
+    QVERIFY(waitForWindow(QStringLiteral("^Save$"), false));
+    QVERIFY(waitForWindow(QStringLiteral("^garden$")));
+
+    press(QStringLiteral("Escape"));
+    QVERIFY(waitForWindow(QStringLiteral("^Save$")));
+    press(QStringLiteral("alt+n"));
+    QVERIFY(waitForWindow(QStringLiteral("^garden$"), false));
+    file.seek(0);
+    QCOMPARE(file.readAll(), saved);
 }
 
 void tst_WritingOnScreen::learnerGetsToTheEnd()

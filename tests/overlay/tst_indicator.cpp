@@ -99,9 +99,7 @@ private slots:
     void sideChangeMovesTheTextBox();
     void balloonThatWentMissingIsMadeAgain();
     void buttonsSendAnswers();
-    void closingEndsEverything();
     void windowsOutliveTheirOwner();
-    void logWindowIsActive();
 
 private:
     QScopedPointer<Owner> mOwner;
@@ -232,18 +230,6 @@ void tst_Indicator::buttonsSendAnswers()
     QVERIFY(mIndicator->isButtonWindowActive());
 }
 
-void tst_Indicator::closingEndsEverything()
-{
-    mIndicator->init(true, true);
-    mIndicator->close();
-    QVERIFY(visible<QWidget>().isEmpty());
-    mIndicator->showButton();
-    mIndicator->init(true, true);
-    mIndicator->showTooltip();
-    QTest::qWait(300);
-    QVERIFY(visible<QWidget>().isEmpty());
-}
-
 void tst_Indicator::windowsOutliveTheirOwner()
 {
     TutorialLog log(nullptr, mOwner.data());
@@ -253,22 +239,6 @@ void tst_Indicator::windowsOutliveTheirOwner()
     button("Next")->activateWindow();
     QTest::qWait(300);
     QVERIFY(balloon());
-}
-
-void tst_Indicator::logWindowIsActive()
-{
-    TutorialLog log(nullptr, mOwner.data());
-    QTRY_VERIFY(log.isActiveWindow());
-    QVERIFY(mOwner->calls.startsWith(QStringLiteral("reorder")));
-    mOwner->calls.clear();
-    QWidget other;
-    other.show();
-    other.activateWindow();
-    QTRY_VERIFY(!log.isActiveWindow());
-    QVERIFY(mOwner->calls.contains(QStringLiteral("visibility")));
-    QVERIFY(!mOwner->calls.contains(QStringLiteral("reorder")));
-    QTest::qWait(100);
-    QVERIFY(other.isActiveWindow());
 }
 
 QTEST_MAIN(tst_Indicator)

@@ -21,7 +21,6 @@ private slots:
     void glide();
     void sides_data();
     void sides();
-    void tipStaysOnOnePointThroughAllSides();
     void bounce_data();
     void bounce();
 };
@@ -103,27 +102,6 @@ void tst_Motion::sides()
     QCOMPARE(motion.updateSides(kArrowWidth, kAreaRight), up != wasUp || left != wasLeft);
     QCOMPARE(motion.flippedVertically, up);
     QCOMPARE(motion.flippedHorizontally, left);
-}
-
-void tst_Motion::tipStaysOnOnePointThroughAllSides()
-{
-    // Where the drawn arrow's tip stands in the balloon, at rest, by side.
-    constexpr int height = 159;
-    constexpr int tipX = 38;
-    constexpr int tipY = 149;
-    BalloonMotion motion;
-    motion.target = QPoint(700, 500);
-    for (bool up : {false, true}) {
-        for (bool left : {false, true}) {
-            motion.flippedVertically = up;
-            motion.flippedHorizontally = left;
-            const BalloonMotion::WidePoint balloon = motion.effectiveTarget(kArrowWidth);
-            const int x = left ? kArrowWidth + 256 - tipX : tipX;
-            const int y = up ? height - (10 + tipY) : 16 + tipY;
-            QCOMPARE(balloon.x + x, qint64(738));
-            QCOMPARE(balloon.y + y, qint64(665));
-        }
-    }
 }
 
 void tst_Motion::bounce_data()

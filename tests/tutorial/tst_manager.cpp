@@ -64,7 +64,6 @@ private slots:
     void cleanup();
 
     void aMessageIsSentOnceConnected();
-    void severalMessagesInAPacketComeInOrder();
     void nothingIsHandledBehindBye();
     void aBurstIsHandledWhole();
     void messagesBeforeStartAreIgnored();
@@ -77,7 +76,6 @@ private slots:
     void hiddenByTheHost();
     void windowKindOfAnObject();
     void escaping();
-    void theFirstManagerIsTheInstance();
 
 private:
     void receive(const QStringList& message);
@@ -130,17 +128,6 @@ void tst_Manager::aMessageIsSentOnceConnected()
                                       "1\1-2\1"
                                       "64\0");
     QTRY_COMPARE(sHost->receivedWithoutAlive(), expected);
-}
-
-void tst_Manager::severalMessagesInAPacketComeInOrder()
-{
-    QSignalSpy received(mManager, &TutorialManager::received);
-    sHost->sendBytes(bytes("0\2alive\2stop\0"
-                           "0\2x\1\1y\0"));
-    QTRY_COMPARE(received.size(), 3);
-    QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("alive"));
-    QCOMPARE(received.at(1).at(0).toString(), QStringLiteral("stop"));
-    QCOMPARE(received.at(2).at(0).toString(), QStringLiteral("x\1\1y"));
 }
 
 void tst_Manager::nothingIsHandledBehindBye()
@@ -342,14 +329,6 @@ void tst_Manager::escaping()
     QCOMPARE(TutorialManager::getEscapedString(QStringLiteral("\"\\")), QStringLiteral("\\\"\\\\"));
     const QString text = QStringLiteral("a\\\"b\\\\\nc\\1");
     QCOMPARE(TutorialManager::getUnescapedString(TutorialManager::getEscapedString(text)), text);
-}
-
-void tst_Manager::theFirstManagerIsTheInstance()
-{
-    auto* second = new TutorialManager(qApp);
-    QCOMPARE(TutorialManager::mInstance, mManager);
-    delete second;
-    QCOMPARE(TutorialManager::mInstance, mManager);
 }
 
 int main(int argc, char** argv)

