@@ -11,7 +11,7 @@ struct FakeState : HostState {
         return states.value(window, QStringLiteral("close"));
     }
     std::optional<int> textLength(Tutorial::EnumWindowKind) const override { return length; }
-    std::optional<int> spinBoxValue(Tutorial::EnumWindowKind) const override { return value; }
+    std::optional<int> spinBoxValue(Tutorial::EnumWindowKind) const override { return {}; }
     std::optional<int> comboBoxRow(Tutorial::EnumWindowKind, const QString& name) const override
     {
         return name == QLatin1String("trigger") ? row : std::nullopt;
@@ -23,7 +23,6 @@ struct FakeState : HostState {
 
     QHash<Tutorial::EnumWindowKind, QString> states;
     std::optional<int> length;
-    std::optional<int> value;
     std::optional<int> row;
     std::optional<bool> checked;
 };
