@@ -13,9 +13,14 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPointer>
-#include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTextEdit>
 #include <QtTest>
+
+inline QString operator""_s(const char* text, std::size_t size)
+{
+    return QString::fromUtf8(text, int(size));
+}
 
 // The steps in the words from `*word` on, to the end of their group.
 inline QJsonArray stepsOf(const QStringList& words, int* word)
@@ -79,6 +84,7 @@ public:
     TutorialEditor::Model* model() const { return mDialog->model(); }
     TutorialEditor::TreeView* tree() const { return widget<TutorialEditor::TreeView>("steps"); }
 
+    QTextEdit* hint() const { return widget<QTextEdit>("hint"); }
     template <typename Widget>
     Widget* widget(const char* name) const
     {
@@ -90,17 +96,18 @@ public:
         return TutorialEditor::TutorialItem::from(model()->getItemByActionIndexList(rows));
     }
 
-    // As a click on the row, and a click with Shift held on another one.
-    void select(const QList<int>& rows) { click(rows, Qt::NoModifier); }
+    // As a click on the row, and one with Shift held on another row.
+    void select(const QList<int>& rows) { click(item(rows)->index(), Qt::NoModifier); }
     void select(const QList<int>& first, const QList<int>& last)
     {
-        click(first, Qt::NoModifier);
-        click(last, Qt::ShiftModifier);
+        select(first);
+        click(item(last)->index(), Qt::ShiftModifier);
     }
-
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    void click(const QModelIndex& index, Qt::KeyboardModifiers modifiers)
     {
-        QTest::keyClick(tree(), key, modifiers);
+        tree()->scrollTo(index);
+        QTest::mouseClick(
+            tree()->viewport(), Qt::LeftButton, modifiers, tree()->visualRect(index).center());
     }
 
     // The rows' texts, joined by "|", with a dot a level before each.
@@ -130,14 +137,6 @@ public:
     }
 
 private:
-    void click(const QList<int>& rows, Qt::KeyboardModifiers modifiers)
-    {
-        const QModelIndex index = item(rows)->index();
-        tree()->scrollTo(index);
-        QTest::mouseClick(
-            tree()->viewport(), Qt::LeftButton, modifiers, tree()->visualRect(index).center());
-    }
-
     static QStringList rowsOf(const QStandardItem* level, const QString& dots)
     {
         QStringList texts;

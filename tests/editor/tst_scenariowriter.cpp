@@ -5,7 +5,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace TutorialEditor;
@@ -15,20 +14,11 @@ class tst_ScenarioWriter : public QObject {
 
 private slots:
     void workedExample();
-    void values_data();
-    void values();
     void compactTextIsQts();
-    void lists();
     void randomTrees();
-    void files();
 };
 
 namespace {
-
-QJsonArray arrayOf(const QString& json)
-{
-    return QJsonDocument::fromJson(json.toUtf8()).array();
-}
 
 // Trees of steps with texts that are hard on a reader.
 class Trees {
@@ -141,44 +131,6 @@ void tst_ScenarioWriter::workedExample()
     QCOMPARE(scenarioFileText(scenarioJson(steps)), file);
 }
 
-// One key of a step, and its line in the file.
-void tst_ScenarioWriter::values_data()
-{
-    QTest::addColumn<QString>("member");
-    QTest::addColumn<QString>("line");
-    const auto row = [](const char* tag, const char* member, const char* line) {
-        QTest::newRow(tag) << QString::fromUtf8(member) << QString::fromUtf8(line);
-    };
-    row("slash", R"("hint": "Go/Stop")", R"("hint": "Go\/Stop")");
-    row("escapes", R"("a": "\\ \" \b\t\n\f\r")", R"("a": "\\ \" \b\t\n\f\r")");
-    row("other control character", R"("a": "\u0001ä")", "\"a\": \"\x01ä\"");
-    row("expression", R"x("comment": "qsTr(\"a/b\")")x", R"x("comment": qsTr("a/b"))x");
-    row("expression elsewhere", R"x("label": "qsTr(\"a\")")x", R"x("label": "qsTr(\"a\")")x");
-    row("incomplete expression", R"x("hint": "qsTr(")x", R"x("hint": qsTr()x");
-    row("NOOP with comma", R"x("hint": "QT_TRANSLATE_NOOP(\"a\"),")x",
-        R"x("hint": QT_TRANSLATE_NOOP("a"))x");
-    row("NOOP, comma inside", R"x("hint": "QT_TRANSLATE_NOOP(\"a\",")x",
-        R"x("hint": QT_TRANSLATE_NOOP("a",)x");
-    row("whole number", R"("x": -9999)", R"("x": -9999)");
-    row("six digits", R"("x": 1234567)", R"("x": 1.23457e+06)");
-    row("fraction", R"("x": 0.5)", R"("x": 0.5)");
-    row("booleans", R"("a": true, "b": false)", "\"a\": true,\n        \"b\": false");
-    // These would leave nothing behind the colon, and a file that no one reads.
-    row("other types", R"("a": [1,"x"], "b": {"c": null}, "d": null)",
-        "\"a\": [1,\"x\"],\n        \"b\": {\"c\":null},\n        \"d\": null");
-    row("quote in a key", R"("a\"b": 1)", R"("a\"b": 1)");
-}
-
-void tst_ScenarioWriter::values()
-{
-    QFETCH(QString, member);
-    QFETCH(QString, line);
-    const QJsonArray steps = arrayOf(QLatin1String("[{") + member + QLatin1String("}]"));
-    QCOMPARE(steps.size(), 1);
-    QCOMPARE(scenarioJson(steps),
-        QLatin1String("[\n    {\n        ") + line + QLatin1String("\n    }\n]"));
-}
-
 void tst_ScenarioWriter::compactTextIsQts()
 {
     QJsonArray values{1, -7, 0, 2147483647, 2147483648.0, 1.5, 1e300, true, QJsonValue::Null,
@@ -194,27 +146,6 @@ void tst_ScenarioWriter::compactTextIsQts()
     }
 }
 
-void tst_ScenarioWriter::lists()
-{
-    QCOMPARE(scenarioFileText(scenarioJson({})), QStringLiteral("var scenario = [\n\n];"));
-    QCOMPARE(scenarioFileText(QStringLiteral("[]\r\n\r\n")), QStringLiteral("var scenario = [];"));
-
-    const QJsonObject step{{QStringLiteral("x"), 1}};
-    QJsonObject group{{QStringLiteral("hint"), QStringLiteral("qsTr(\"g\")")},
-        {QStringLiteral("icon"), QStringLiteral("eye")},
-        {QStringLiteral("group"), QJsonArray{step, step}}};
-    QCOMPARE(scenarioJson({step, group}, StepListForm::Copied),
-        QStringLiteral(
-            "[{\"x\":1},\n{ \"hint\": \"qsTr(\"g\")\", \"group\": [{\"x\":1},\n{\"x\":1}]}]"));
-    group[QStringLiteral("label")] = QStringLiteral("l");
-    QCOMPARE(scenarioJson({step, group}),
-        QStringLiteral("[\n    {\n        \"x\": 1\n    },\n    {\n"
-                       "        \"hint\": qsTr(\"g\"),\n        \"label\": \"l\",\n"
-                       "        \"group\": [\n        {\n            \"x\": 1\n"
-                       "        },\n        {\n            \"x\": 1\n        }\n]\n"
-                       "    }\n]"));
-}
-
 void tst_ScenarioWriter::randomTrees()
 {
     for (quint32 seed = 0; seed < 10000; ++seed) {
@@ -226,21 +157,6 @@ void tst_ScenarioWriter::randomTrees()
             QFAIL(qPrintable(QStringLiteral("seed %1: %2\n%3")
                                  .arg(QString::number(seed), errors.join(QLatin1Char(' ')), file)));
     }
-}
-
-void tst_ScenarioWriter::files()
-{
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.js"));
-    const QString json = scenarioJson(arrayOf(QString::fromUtf8("[{\"hint\":\"ä\"}]")));
-    QVERIFY(writeScenarioFile(path, json + QLatin1Char('\n')));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(),
-        QByteArray("var scenario = [\n    {\n        \"hint\": \"\xC3\xA4\"\n    }\n];"));
-    QVERIFY(!writeScenarioFile(folder.path(), json));
-    QVERIFY(!writeScenarioFile(folder.filePath(QStringLiteral("gone/a.js")), json));
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("a.js")));
 }
 
 QTEST_APPLESS_MAIN(tst_ScenarioWriter)

@@ -1,7 +1,6 @@
 #include "openscenario.h"
 
 #include <QRandomGenerator>
-#include <QTextEdit>
 
 using namespace TutorialEditor;
 
@@ -95,7 +94,7 @@ QString randomSteps(QRandomGenerator* random, int depth, int* name)
     for (int i = 0; i < count; ++i) {
         const QString word = QString::number((*name)++);
         if (depth < 3 && random->bounded(3) == 0)
-            steps += QStringLiteral(" [%1 %2 ]").arg(word, randomSteps(random, depth + 1, name));
+            steps += " [%1 %2 ]"_s.arg(word, randomSteps(random, depth + 1, name));
         else
             steps += QLatin1Char(' ') + word;
     }
@@ -114,70 +113,8 @@ class tst_TreeView : public QObject {
     Q_OBJECT
 
 private slots:
-    void keysBecomeCommands_data();
-    void keysBecomeCommands();
-    void doubleClickNeitherExpandsNorMissesTheEnd();
     void selectionFollowsTheRules();
-    void widensOnce();
-    void listsGroupsBeforeTheirContents();
 };
-
-void tst_TreeView::keysBecomeCommands_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QByteArray>("signal");
-    const auto add = [](const char* tag, int key, int modifiers, const char* signal) {
-        QTest::newRow(tag) << key << modifiers << QByteArray(signal);
-    };
-    const int control = Qt::ControlModifier;
-    add("space", Qt::Key_Space, 0, SIGNAL(startTriggered()));
-    add("space with any modifier", Qt::Key_Space, Qt::ShiftModifier, SIGNAL(startTriggered()));
-    add("keypad enter", Qt::Key_Enter, Qt::KeypadModifier, SIGNAL(newTriggered()));
-    add("delete", Qt::Key_Delete, 0, SIGNAL(deleteTriggered()));
-    add("cut", Qt::Key_X, control, SIGNAL(cutTriggered()));
-    add("copy", Qt::Key_C, control, SIGNAL(copyTriggered()));
-    add("paste", Qt::Key_V, control | Qt::ShiftModifier, SIGNAL(pasteTriggered()));
-    add("pick", Qt::Key_M, control, SIGNAL(mousePosTriggered()));
-    add("group", Qt::Key_B, control, SIGNAL(groupingTriggered()));
-    add("ungroup", Qt::Key_I, control, SIGNAL(ungroupingTriggered()));
-    add("return is no command", Qt::Key_Return, 0, "");
-    add("backspace is no command", Qt::Key_Backspace, 0, "");
-    add("a letter alone is no command", Qt::Key_X, 0, "");
-}
-
-void tst_TreeView::keysBecomeCommands()
-{
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    QFETCH(QByteArray, signal);
-    TreeView view(nullptr);
-    const QMetaObject* meta = view.metaObject();
-    std::vector<std::unique_ptr<QSignalSpy>> spies;
-    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i)
-        spies.push_back(std::make_unique<QSignalSpy>(&view, meta->method(i)));
-
-    QTest::keyClick(&view, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    for (const auto& spy : spies) {
-        const bool expected = !signal.isEmpty() && spy->signal() == signal.mid(1);
-        QCOMPARE(spy->count(), expected ? 1 : 0);
-    }
-}
-
-void tst_TreeView::doubleClickNeitherExpandsNorMissesTheEnd()
-{
-    OpenScenario scenario(scenarioText(QStringLiteral("a [g b c ]")));
-    const QModelIndex group = scenario.item({1})->index();
-    QTest::mouseDClick(scenario.tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
-        scenario.tree()->visualRect(group).center());
-    QVERIFY(scenario.tree()->isExpanded(group));
-
-    const QModelIndex marker = scenario.item({1, 2})->index();
-    QTest::mouseDClick(scenario.tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
-        scenario.tree()->visualRect(marker).center());
-    QCOMPARE(scenario.rows(), QStringLiteral("a|g|.b|.c|.|.<>|<>"));
-    QCOMPARE(scenario.selectedRows(), QString());
-}
 
 // Random trees, random runs selected with Shift: the same rows are selected,
 // and the same step is shown, as when the rules are followed row by row.
@@ -220,31 +157,9 @@ void tst_TreeView::selectionFollowsTheRules()
                 selected, QItemSelectionModel::ClearAndSelect);
             QCOMPARE(selectedSet(scenario.tree()->selectionModel()),
                 selectedSet(rules.selectionModel()));
-            QCOMPARE(scenario.widget<QTextEdit>("hint")->toPlainText(),
-                rules.shown ? rules.shown->text() : QString());
+            QCOMPARE(scenario.hint()->toPlainText(), rules.shown ? rules.shown->text() : QString());
         }
     }
-}
-
-void tst_TreeView::widensOnce()
-{
-    OpenScenario scenario(scenarioText(QStringLiteral("[a b [c d e [f g ] ] h ] i")));
-    QSignalSpy changed(scenario.tree()->selectionModel(), &QItemSelectionModel::selectionChanged);
-    scenario.select({0});
-    QCOMPARE(scenario.tree()->getSelectedIndexes().size(), 11);
-    QCOMPARE(changed.count(), 2);
-    // A row that is taken out of a selected group is taken back.
-    scenario.tree()->selectionModel()->select(
-        scenario.item({0, 1, 0})->index(), QItemSelectionModel::Deselect);
-    QCOMPARE(scenario.tree()->getSelectedIndexes().size(), 11);
-}
-
-// Qt lists an expanded group's contents before the run that the group is in.
-void tst_TreeView::listsGroupsBeforeTheirContents()
-{
-    OpenScenario scenario(scenarioText(QStringLiteral("a [g b ] c")));
-    scenario.select({0}, {2});
-    QCOMPARE(scenario.selectedRows(), QStringLiteral("a|g|c|b|<>"));
 }
 
 QTEST_MAIN(tst_TreeView)
