@@ -45,8 +45,9 @@ private slots:
     void lookingChangesNothing_data();
     void lookingChangesNothing();
 
-    void savesOnRequest();
+    void formLetsGoOfItems();
     void keepsTheFormerFile();
+    void failedSaveLosesNothing();
     void escapeAsks();
 };
 
@@ -129,30 +130,20 @@ void tst_Dialog::lookingChangesNothing()
         QString(before).replace(QLatin1String("\"h\""), QLatin1String("\"new\"")));
 }
 
-void tst_Dialog::savesOnRequest()
+void tst_Dialog::formLetsGoOfItems()
 {
-    OpenScenario scenario(scenarioText("a"_s));
+    OpenScenario scenario(scenarioText(QStringLiteral("[g a b ] c")));
+    QTextEdit* hint = scenario.hint();
+    scenario.select({0, 1});
+    scenario.model()->removeRow(0);
+    QVERIFY(hint->isHidden());
     scenario.select({0});
-    scenario.hint()->setPlainText("b"_s);
-    const QString before = scenario.fileText();
-    auto* save = scenario.widget<QPushButton>("save");
-    {
-        ModalBoxes boxes(
-            QMessageBox::Cancel, [](QMessageBox* box) { QVERIFY(!box->button(QMessageBox::No)); });
-        save->click();
-        QCOMPARE(boxes.seen(), QStringList("Save: Save OK?"_s));
-        QCOMPARE(scenario.fileText(), before);
-    }
-    {
-        ModalBoxes boxes(QMessageBox::Yes);
-        save->click();
-        QVERIFY(boxes.isDone());
-        QCOMPARE(scenario.fileText(), scenarioText("b"_s));
-    }
-    ModalBoxes boxes;
-    save->click();
-    QVERIFY(boxes.seen().isEmpty());
-    QVERIFY(!QFile::exists(scenario.path() + QLatin1String(".bak")));
+    QVERIFY(!hint->isHidden());
+    scenario.write(scenarioText(QStringLiteral("d")));
+    Manager::setContents(scenario.path());
+    QVERIFY(hint->isHidden());
+    hint->setPlainText(QStringLiteral("lost"));
+    QCOMPARE(scenario.rows(), QStringLiteral("d|<>"));
 }
 
 void tst_Dialog::keepsTheFormerFile()
@@ -174,6 +165,21 @@ void tst_Dialog::keepsTheFormerFile()
         QVERIFY(kept.open(QIODevice::ReadOnly));
         QCOMPARE(QString::fromUtf8(kept.readAll()), before);
     }
+}
+
+void tst_Dialog::failedSaveLosesNothing()
+{
+    OpenScenario scenario(scenarioText(QStringLiteral("a")));
+    scenario.select({0});
+    scenario.widget<QTextEdit>("hint")->setPlainText(QStringLiteral("b"));
+    // A folder that is gone.
+    QVERIFY(QDir(QFileInfo(scenario.path()).path()).removeRecursively());
+    ModalBoxes boxes(QList<ModalBoxes::Answer>{
+        {QMessageBox::Yes, nullptr}, {QMessageBox::Ok, nullptr}, {QMessageBox::Cancel, nullptr}});
+    QTest::keyClick(scenario.dialog(), Qt::Key_Escape);
+    QVERIFY(scenario.dialog()->isVisible());
+    QVERIFY(!Manager::mInstance->checkSave(true));
+    QVERIFY(boxes.isDone());
 }
 
 void tst_Dialog::escapeAsks()

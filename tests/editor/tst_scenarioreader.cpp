@@ -1,6 +1,9 @@
 #include "editor/scenarioreader.h"
 
+#include <QFile>
 #include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace TutorialEditor;
@@ -14,6 +17,7 @@ private slots:
     void errors_data();
     void errors();
     void everyCutEnds();
+    void files();
 };
 
 namespace {
@@ -105,6 +109,36 @@ void tst_ScenarioReader::everyCutEnds()
             readScenario(text.left(size), &errors);
             QVERIFY(!errors.isEmpty());
         }
+    }
+}
+
+void tst_ScenarioReader::files()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("first.js"));
+    const auto write = [&](const QByteArray& bytes) {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    };
+    QJsonArray steps;
+    QStringList errors;
+    QVERIFY(!readScenarioFile(path, &steps, &errors));
+    QVERIFY(!readScenarioFile(folder.path(), &steps, &errors));
+
+    errors.clear();
+    QVERIFY(write("\xEF\xBB\xBF[\n{\n\"hint\": \"\xC3\xA4\"\n}\n]"));
+    QVERIFY2(readScenarioFile(path, &steps, &errors), qPrintable(errors.join(QLatin1Char(';'))));
+    QCOMPARE(steps[0].toObject()[QStringLiteral("hint")].toString(), QStringLiteral("ä"));
+
+    QVERIFY(write("[\n{\n\"hint\": \"\xE4\"\n}\n]"));
+    QVERIFY(!readScenarioFile(path, &steps, &errors));
+    QVERIFY(errors.first().contains(QLatin1String("UTF-8")));
+    QCOMPARE(steps.size(), 1);
+
+    for (int depth : {1000, 2000, 1000000}) {
+        errors.clear();
+        QVERIFY(write(QByteArray("[{\"group\":\n").repeated(depth)));
+        QVERIFY(!readScenarioFile(path, &steps, &errors));
     }
 }
 

@@ -75,7 +75,6 @@ private slots:
     void target();
     void hiddenByTheHost();
     void windowKindOfAnObject();
-    void escaping();
 
 private:
     void receive(const QStringList& message);
@@ -322,13 +321,6 @@ void tst_Manager::windowKindOfAnObject()
     mManager->setXy(Window_Options, 3, 4);
     QCOMPARE(mManager->getXy(&dialog), QPoint(3, 4));
     QCOMPARE(mManager->getXy(&bare), QPoint());
-}
-
-void tst_Manager::escaping()
-{
-    QCOMPARE(TutorialManager::getEscapedString(QStringLiteral("\"\\")), QStringLiteral("\\\"\\\\"));
-    const QString text = QStringLiteral("a\\\"b\\\\\nc\\1");
-    QCOMPARE(TutorialManager::getUnescapedString(TutorialManager::getEscapedString(text)), text);
 }
 
 int main(int argc, char** argv)
