@@ -216,6 +216,8 @@ bool TutorialEditor::writeScenarioFile(const QString& path, const QString& json)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    file.write(scenarioFileText(json).toUtf8());
-    return file.commit();
+    const QByteArray bytes = scenarioFileText(json).toUtf8();
+    // A buffer that cannot be written any more when the file is closed, on a full
+    // disk, is no failure to commit(): it would leave an empty file.
+    return file.write(bytes) == bytes.size() && file.flush() && file.commit();
 }

@@ -2,10 +2,15 @@
 #include "editor/scenariowriter.h"
 #include "editor/stepjson.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
+#include <QTemporaryDir>
 #include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace TutorialEditor;
 
@@ -16,6 +21,7 @@ private slots:
     void workedExample();
     void compactTextIsQts();
     void randomTrees();
+    void fullDisk();
 };
 
 namespace {
@@ -157,6 +163,25 @@ void tst_ScenarioWriter::randomTrees()
             QFAIL(qPrintable(QStringLiteral("seed %1: %2\n%3")
                                  .arg(QString::number(seed), errors.join(QLatin1Char(' ')), file)));
     }
+}
+
+// The former file used to be replaced by an empty one.
+void tst_ScenarioWriter::fullDisk()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.js"));
+    QVERIFY(writeScenarioFile(path, QStringLiteral("[1]")));
+    rlimit former;
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &former), 0);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{10, former.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const bool isWritten = writeScenarioFile(path, QStringLiteral("[2]"));
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &former), 0);
+    QVERIFY(!isWritten);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("var scenario = [1];"));
 }
 
 QTEST_APPLESS_MAIN(tst_ScenarioWriter)
