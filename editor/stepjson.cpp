@@ -57,11 +57,6 @@ bool writeCommon(QString* out, const QJsonObject& step)
 
 } // namespace
 
-QJsonObject TutorialEditor::stepObject(const QString& json)
-{
-    return QJsonDocument::fromJson(json.toUtf8()).object();
-}
-
 QString TutorialEditor::stepJson(const QJsonObject& step)
 {
     QString text;

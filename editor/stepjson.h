@@ -4,10 +4,8 @@
 
 namespace TutorialEditor {
 
-// The object of a step in JSON text; empty for a text that is no object.
-QJsonObject stepObject(const QString& json);
-
-// The other way: compact, keys in alphabetical order.
+// A step as compact JSON text, its keys in alphabetical order: what QJsonDocument
+// writes.
 QString stepJson(const QJsonObject& step);
 
 } // namespace TutorialEditor
