@@ -1,5 +1,6 @@
 #include "editor/scenariowriter.h"
 
+#include "editor/atomicfile.h"
 #include "editor/jsonescape.h"
 #include "editor/stepjson.h"
 #include "editor/translationexpression.h"
@@ -7,7 +8,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 using namespace TutorialEditor;
 
@@ -212,12 +212,5 @@ QString TutorialEditor::scenarioFileText(const QString& json)
 
 bool TutorialEditor::writeScenarioFile(const QString& path, const QString& json)
 {
-    // Not in text mode: a file has the same bytes on every system.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    const QByteArray bytes = scenarioFileText(json).toUtf8();
-    // A buffer that cannot be written any more when the file is closed, on a full
-    // disk, is no failure to commit(): it would leave an empty file.
-    return file.write(bytes) == bytes.size() && file.flush() && file.commit();
+    return replaceFile(path, scenarioFileText(json).toUtf8());
 }
