@@ -24,11 +24,19 @@ QString titleOf(const QString& path)
     return path.section(QLatin1Char('/'), -1).section(QLatin1Char('.'), 0, 0);
 }
 
-// Keeps the file as <name>.bak. False when there is a file and no copy of it.
+bool isReadable(const QString& path)
+{
+    QJsonArray steps;
+    QStringList errors;
+    return readScenarioFile(path, &steps, &errors);
+}
+
+// Keeps the file as <name>.bak, unless that would replace a scenario by a file
+// that is none. False when there is no copy then.
 bool keepFormerFile(const QString& path)
 {
     const QString copy = path + QLatin1String(".bak");
-    if (!QFile::exists(path))
+    if (!QFile::exists(path) || (QFile::exists(copy) && !isReadable(path)))
         return true;
     QFile::remove(copy);
     return QFile::copy(path, copy);
