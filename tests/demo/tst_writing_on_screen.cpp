@@ -1,4 +1,5 @@
 #include "editor/scenarioreader.h"
+#include "tests/support/xdotool.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -22,45 +23,6 @@ const QByteArray kStarter = R"(var scenario = [
         "y": 0
     }
 ];)";
-
-QString xdotool(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral("xdotool"), arguments);
-    process.waitForFinished(kDeadlineMs);
-    return QString::fromLatin1(process.readAllStandardOutput()).trimmed();
-}
-
-// Keys by the X server's names, separated by blanks.
-void press(const QString& keys)
-{
-    xdotool(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("30")}
-        + keys.split(QLatin1Char(' ')));
-}
-
-void type(const QString& text)
-{
-    xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("10"),
-        QStringLiteral("--"), text});
-}
-
-QString windowTitled(const QString& pattern)
-{
-    return xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                       QStringLiteral("--name"), pattern})
-        .section(QLatin1Char('\n'), 0, 0);
-}
-
-bool waitForWindow(const QString& pattern, bool shown = true)
-{
-    return QTest::qWaitFor([&] { return windowTitled(pattern).isEmpty() != shown; }, kDeadlineMs);
-}
-
-void click(const QString& window, int x, int y)
-{
-    xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), window, QString::number(x),
-        QString::number(y), QStringLiteral("click"), QStringLiteral("1")});
-}
 
 // How many buttons the overlay shows, told by their size.
 int buttons()
