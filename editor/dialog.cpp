@@ -188,6 +188,8 @@ void Dialog::createTree()
                 linkToEdit(nullptr);
         });
     connect(mModel, &Model::modelAboutToBeReset, this, [this] { linkToEdit(nullptr); });
+    connect(mModel, &Model::rowsInserted, this, &Dialog::changed);
+    connect(mModel, &Model::rowsRemoved, this, &Dialog::changed);
 
     connect(mTreeView, &QWidget::customContextMenuRequested, this,
         &Dialog::onCustomContextMenuRequested);

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "editor/condition.h"
+#include "editor/savedstate.h"
 #include "editor/stepfields.h"
 
-#include <QByteArray>
 #include <QDialog>
-#include <QJsonArray>
 #include <QVector>
 
 #include <array>
 
 class QCheckBox;
 class QComboBox;
+class QJsonArray;
 class QLabel;
 class QLineEdit;
 class QMenu;
@@ -51,10 +51,14 @@ public:
     // Loads a scenario and shows the dialog. text: the file's, without comments
     // and markers; errors: what was found wrong with it until now.
     void setContents(const QString& text, const QStringList& errors = QStringList());
+    // Takes steps, with the contents of groups, in place of those in the tree, as
+    // changes that are not saved, and shows the dialog.
+    void recover(const QJsonArray& steps);
     // The list, in file form, that counts as saved.
     void setLastJson(const QString& json);
     // Whether the scenario is as it was loaded or saved last.
     bool isSaved() const;
+    const SavedState& savedState() const { return mSaved; }
     // Asks about unsaved changes, if there are any. withNo: whether going on
     // without saving is one of the answers. False when the author cancelled or
     // the scenario could not be written.
@@ -77,6 +81,10 @@ public:
     void onTreeViewDoubleclicked(const QModelIndex& index);
 
     void reject() override;
+
+signals:
+    // The author, or the host for him, has changed a step or the tree.
+    void changed();
 
 private slots:
     void onCustomContextMenuRequested(const QPoint& pos);
@@ -129,6 +137,7 @@ private:
     QComboBox* parameterBox(ParameterView view) const;
 
     // Loading.
+    void bringToFront();
     void fillForm(const StepFields& fields);
 
     // Editing.
@@ -184,10 +193,7 @@ private:
 
     TutorialItem* mItem = nullptr; // in the form; the model owns it
     StepFields mFields; // what the form held after the last load or rebuild
-    // What counts as saved: the steps as they were loaded, which the items share,
-    // or a digest of the text that was written. The text is larger than the tree.
-    QJsonArray mLoadedSteps;
-    QByteArray mLastJson;
+    SavedState mSaved;
 };
 
 } // namespace TutorialEditor

@@ -219,6 +219,7 @@ void Dialog::onValueChanged()
     mFields = now;
     mItem->setStep(rebuilt.step);
     mItem->setData(rebuilt.displayText, Qt::EditRole);
+    emit changed();
     pointIndicator(rebuilt.x, rebuilt.y);
 }
 

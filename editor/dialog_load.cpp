@@ -46,8 +46,20 @@ void setLocalized(TutorialItem* item, const QString& translation)
 void Dialog::setContents(const QString& text, const QStringList& errors)
 {
     mModel->setContents(text, errors);
-    mLastJson.clear();
-    mLoadedSteps = getCurrentSteps();
+    mSaved = SavedState(getCurrentSteps());
+    bringToFront();
+}
+
+void Dialog::recover(const QJsonArray& steps)
+{
+    // What is wrong with a step was told when it was read from the file.
+    QStringList errors;
+    mModel->setSteps(steps, &errors);
+    bringToFront();
+}
+
+void Dialog::bringToFront()
+{
     show();
     raise();
     activateWindow();

@@ -7,7 +7,6 @@
 #include "editor/tutorialitem.h"
 
 #include <QCloseEvent>
-#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QMessageBox>
@@ -37,13 +36,6 @@ QJsonObject stepOf(const TutorialItem* item)
     if (item->isGroup())
         step.insert(QStringLiteral("group"), stepsOf(item));
     return step;
-}
-
-QByteArray digest(const QString& text)
-{
-    const auto bytes = QByteArray::fromRawData(
-        reinterpret_cast<const char*>(text.constData()), text.size() * int(sizeof(QChar)));
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
 } // namespace
@@ -84,14 +76,12 @@ void Dialog::getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, b
 
 void Dialog::setLastJson(const QString& json)
 {
-    mLoadedSteps = QJsonArray();
-    mLastJson = digest(json);
+    mSaved = SavedState(json);
 }
 
 bool Dialog::isSaved() const
 {
-    return digest(getCurrentJson())
-        == (mLastJson.isEmpty() ? digest(scenarioJson(mLoadedSteps)) : mLastJson);
+    return mSaved.is(getCurrentJson());
 }
 
 bool Dialog::checkSave(bool withNo)

@@ -3,12 +3,17 @@
 #include "editor/debuglog.h"
 #include "editor/dialog.h"
 #include "editor/errorbox.h"
+#include "editor/recovery.h"
+#include "editor/recoverycopy.h"
 #include "editor/savecheck.h"
 #include "editor/scenarioreader.h"
 #include "editor/scenariowriter.h"
 
-#include <QFile>
+#include <QAbstractButton>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QJsonArray>
+#include <QLocale>
 #include <QMessageBox>
 
 using namespace TutorialEditor;
@@ -42,9 +47,29 @@ bool keepFormerFile(const QString& path)
     return QFile::copy(path, copy);
 }
 
+// Yes, Discard, or anything else for later.
+QMessageBox::StandardButton askToRecover(const QString& path, const QDateTime& copied)
+{
+    const auto shown = [](const QDateTime& time) {
+        return time.isValid() ? QLocale().toString(time, QLocale::LongFormat)
+                              : Manager::tr("there is none");
+    };
+    QMessageBox box(QMessageBox::Question, Manager::tr("Recover"),
+        Manager::tr("The tool ended before changes of %1 were saved.\n\n"
+                    "Changes: %2\nSaved file: %3\n\nRecover the changes?")
+            .arg(path, shown(copied), shown(QFileInfo(path).lastModified())),
+        QMessageBox::Yes | QMessageBox::Discard | QMessageBox::Cancel);
+    box.button(QMessageBox::Yes)->setText(Manager::tr("&Recover"));
+    box.button(QMessageBox::Discard)->setText(Manager::tr("&Discard"));
+    box.button(QMessageBox::Cancel)->setText(Manager::tr("&Later"));
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
 } // namespace
 
 Manager* Manager::mInstance = nullptr;
+
+Manager::Manager() = default;
 
 Manager::~Manager()
 {
@@ -55,17 +80,20 @@ void Manager::setContents(const QString& path)
 {
     EDITOR_DEBUG_NUMBER(48) << path;
     Manager* manager = ensure();
+    manager->keepUnsaved();
     manager->mPath = path;
     manager->mIsUnreadable = false;
+    manager->mRecovery.reset(new Recovery(manager->mDialog, path));
     manager->mDialog->setWindowTitle(titleOf(path));
     QString text;
     QStringList errors;
-    if (!readScenarioText(path, &text, &errors)) {
+    if (readScenarioText(path, &text, &errors)) {
+        manager->mDialog->setContents(removeMarkers(removeComments(text)), errors);
+        manager->mDialog->localizeAll();
+    } else {
         EDITOR_DEBUG_NUMBER(69) << path << "cannot be opened";
-        return;
     }
-    manager->mDialog->setContents(removeMarkers(removeComments(text)), errors);
-    manager->mDialog->localizeAll();
+    manager->offerRecovery();
 }
 
 bool Manager::save(const QString& json)
@@ -83,12 +111,16 @@ bool Manager::save(const QString& json)
         EDITOR_DEBUG_NUMBER(130) << "no copy of the former file";
         return false;
     }
+    // Whenever this is cut short, either the copy is newer than the file or both
+    // are the same.
+    manager->keepUnsaved();
     if (!writeScenarioFile(path, json)) {
         EDITOR_DEBUG_NUMBER(130);
         return false;
     }
     manager->mIsUnreadable = !problems.isEmpty();
     manager->mDialog->setLastJson(json);
+    manager->discardRecovery();
     EDITOR_DEBUG_NUMBER(149);
     if (!problems.isEmpty())
         QMessageBox::warning(nullptr, tr("Save"),
@@ -123,22 +155,55 @@ void Manager::setCondition(const QStringList& condition)
 
 bool Manager::checkSave(bool ask)
 {
-    return !mDialog || mDialog->checkSave(ask);
+    if (mDialog && !mDialog->checkSave(ask))
+        return false;
+    discardRecovery();
+    return true;
 }
 
-void Manager::keepUnsaved() const
+void Manager::keepUnsaved()
 {
-    if (!mDialog || mPath.isEmpty() || mDialog->isSaved())
-        return;
-    const QString path = mPath + QLatin1String(".unsaved");
-    const bool isWritten = writeScenarioFile(path, mDialog->getCurrentJson());
-    EDITOR_DEBUG << path << isWritten;
+    if (mRecovery)
+        mRecovery->flush();
 }
 
 void Manager::clearDialog()
 {
     EDITOR_DEBUG_NUMBER(154);
+    discardRecovery();
+    mRecovery.reset();
     mDialog = nullptr;
+}
+
+void Manager::discardRecovery()
+{
+    if (mRecovery)
+        mRecovery->discard();
+}
+
+void Manager::offerRecovery()
+{
+    for (auto& copy : RecoveryCopy::takeAbandoned(mPath)) {
+        QJsonArray steps;
+        if (!copy->read(&steps)) {
+            qWarning() << "A recovery copy cannot be read, of" << mPath;
+            continue;
+        }
+        // The process ended after it had saved.
+        if (scenarioJson(steps) == mDialog->getCurrentJson()) {
+            copy->remove();
+            continue;
+        }
+        const auto answer = askToRecover(mPath, copy->time());
+        if (answer == QMessageBox::Discard)
+            copy->remove();
+        if (answer == QMessageBox::Yes) {
+            mDialog->recover(steps);
+            mDialog->localizeAll();
+            mRecovery->adopt(std::move(copy));
+            return;
+        }
+    }
 }
 
 Manager* Manager::ensure()

@@ -6,9 +6,12 @@
 #include <QPointer>
 #include <QString>
 
+#include <memory>
+
 namespace TutorialEditor {
 
 class Dialog;
+class Recovery;
 
 // The one way into the authoring tool. Its static operations make the manager
 // and the dialog when there are none; a fresh dialog is empty, and not shown
@@ -39,18 +42,22 @@ public:
     // Asks about unsaved changes. ask: whether closing without saving is one of
     // the answers. False when the author cancelled or saving failed.
     bool checkSave(bool ask);
-    // Writes unsaved changes beside the scenario's file, as <name>.unsaved: when
-    // the host has ended the process there is nobody left to ask.
-    void keepUnsaved() const;
-    // Forgets the dialog, which is not deleted.
+    // Brings the recovery copy of unsaved changes up to date: when the host has
+    // ended the process there is nobody left to ask.
+    void keepUnsaved();
+    // Forgets the dialog, which is not deleted. What it held is saved or given up.
     void clearDialog();
 
 private:
-    Manager() = default;
+    Manager();
     static Manager* ensure();
+    // Offers the author what was not saved of the scenario when a process ended.
+    void offerRecovery();
+    void discardRecovery();
 
     QPointer<Dialog> mDialog;
     QString mPath;
+    std::unique_ptr<Recovery> mRecovery; // of the scenario that is open
     bool mIsUnreadable = false; // what save() wrote there last
 };
 

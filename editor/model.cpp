@@ -120,19 +120,25 @@ void Model::setContents(const QString& text, QStringList errors)
     const QString json = escapeTranslationForJson(text, &errors);
     const int errorCount = errors.size();
     const QJsonArray steps = parseSteps(json, &errors);
+    if (errors.size() == errorCount)
+        setSteps(steps, &errors);
+    else
+        removeRows(0, rowCount());
 
+    // The box runs an event loop, so the change is over before.
+    showErrors(tr("Parse error"), errors);
+}
+
+void Model::setSteps(const QJsonArray& steps, QStringList* errors)
+{
     beginResetModel();
     {
         // The reset announces all that happens inside of it.
         const QSignalBlocker blocker(this);
         removeRows(0, rowCount());
-        if (errors.size() == errorCount)
-            insertJsonRow(invisibleRootItem(), 0, 0, steps, &errors, false);
+        insertJsonRow(invisibleRootItem(), 0, 0, steps, errors, false);
     }
     endResetModel();
-
-    // The box runs an event loop, so the change is over before.
-    showErrors(tr("Parse error"), errors);
 }
 
 void Model::insertJsonRow(QStandardItem* parent, int row, int depth, const QJsonArray& steps,

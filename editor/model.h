@@ -51,6 +51,9 @@ public:
     // comments and markers. What cannot be read is shown to the author in one
     // box, after `errors`, which were found before.
     void setContents(const QString& text, QStringList errors = QStringList());
+    // Replaces the whole tree by steps, groups with their contents. errors:
+    // receives what cannot be read.
+    void setSteps(const QJsonArray& steps, QStringList* errors);
     // Inserts steps, groups with their contents, into a level from a row on.
     // depth: the number of that level. errors: receives what cannot be read.
     // notify: whether the rows are announced; inside of a reset they are not.

@@ -139,6 +139,7 @@ void tst_Dialog::formLetsGoOfItems()
     QVERIFY(hint->isHidden());
     scenario.select({0});
     QVERIFY(!hint->isHidden());
+    scenario.dialog()->setLastJson(scenario.dialog()->getCurrentJson());
     scenario.write(scenarioText(QStringLiteral("d")));
     Manager::setContents(scenario.path());
     QVERIFY(hint->isHidden());
