@@ -59,7 +59,8 @@ std::vector<std::unique_ptr<RecoveryCopy>> RecoveryCopy::takeAbandoned(const QSt
     std::vector<std::unique_ptr<RecoveryCopy>> copies;
     for (const QString& id : qAsConst(ids)) {
         std::unique_ptr<RecoveryCopy> copy(new RecoveryCopy(scenarioPath, id));
-        if (!copy->mLock.tryLock())
+        // A disk that is too full for a lock keeps nobody from the copy.
+        if (!copy->mLock.tryLock() && copy->mLock.error() == QLockFile::LockFailedError)
             continue;
         const QString name = QFileInfo(copy->mPath).fileName();
         for (const QString& temporary : names.filter(name + QLatin1Char('.'))) {

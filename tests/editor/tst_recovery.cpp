@@ -127,6 +127,10 @@ void tst_Recovery::editorsKeepTheirOwnCopies()
     QVERIFY(second.write(QJsonArray()));
     QCOMPARE(RecoveryCopy::takeAbandoned(path).size(), std::size_t(0));
     first.reset();
+    {
+        const FullDisk disk(0);
+        QCOMPARE(RecoveryCopy::takeAbandoned(path).size(), std::size_t(1));
+    }
     // What a writer leaves that is killed while it writes.
     QFile half(RecoveryCopy::folder() + QLatin1Char('/') + copies().first() + ".x1Y2z3"_s);
     QVERIFY(half.open(QIODevice::WriteOnly));
