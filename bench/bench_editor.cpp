@@ -1,6 +1,7 @@
 #include "bench/report.h"
 #include "editor/dialog.h"
 #include "editor/model.h"
+#include "editor/recoverycopy.h"
 #include "editor/scenarioreader.h"
 #include "editor/scenariowriter.h"
 #include "editor/treeview.h"
@@ -15,6 +16,8 @@
 #include <QJsonObject>
 #include <QLoggingCategory>
 #include <QProcess>
+#include <QSaveFile>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
 #include <QTextStream>
@@ -241,6 +244,33 @@ bool measureCommands()
     return kept;
 }
 
+// The author waits for the first of the two, another thread for the second.
+bool measureRecovery()
+{
+    const QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
+    const QString path = folder.filePath(QStringLiteral("scenario.js"));
+    const QJsonArray array = steps(kSteps);
+    const auto dialog = dialogWith(array);
+    RecoveryCopy copy(path);
+    const bool kept = report(QStringLiteral("collecting 10,000 steps for a recovery copy"),
+        medianMs([&] { dialog->getCurrentSteps(); }), medianMs([&] {
+            QJsonArray plain;
+            for (const QJsonValue& value : array)
+                plain.append(value);
+        }),
+        3);
+    return kept
+        & report(QStringLiteral("writing them as a recovery copy"),
+            medianMs([&] { copy.write(array); }), medianMs([&] {
+                QSaveFile file(path);
+                file.open(QIODevice::WriteOnly);
+                file.write(QJsonDocument(array).toJson(QJsonDocument::Compact));
+                file.commit();
+            }),
+            1.5);
+}
+
 double residentMiB()
 {
     QFile status(QStringLiteral("/proc/self/statm"));
@@ -299,5 +329,6 @@ int main(int argc, char** argv)
     bool kept = measureFiles();
     kept &= measureMemory();
     kept &= measureCommands();
+    kept &= measureRecovery();
     return kept ? 0 : 1;
 }
