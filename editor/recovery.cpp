@@ -12,7 +12,7 @@ using namespace TutorialEditor;
 
 namespace {
 
-constexpr int kDelayMs = 1000;
+constexpr int kDelayMs = 500;
 constexpr int kRetryMs = 10000;
 
 } // namespace
