@@ -173,7 +173,7 @@ void tst_RecoveryOnScreen::workUntilKilled()
     while (mHost->process().state() == QProcess::Running) {
         const QString x = QString::number(++mEdit);
         mHost->send({{QStringLiteral("editor"), QStringLiteral("coordinates"), x, x}});
-        if (below(40) == 0) {
+        if (below(80) == 0) {
             clickSave();
             press(QStringLiteral("alt+y"));
         }
