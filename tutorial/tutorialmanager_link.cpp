@@ -1,6 +1,7 @@
 #include "tutorial/tutorialmanager.h"
 
 #include "overlay/tutorialindicator.h"
+#include "tutorial/peercredentials.h"
 
 #include <QLocalSocket>
 #include <QRegularExpression>
@@ -59,7 +60,18 @@ QString TutorialManager::getUnescapedString(const QString& text)
 
 void TutorialManager::onConnected()
 {
-    mConnected = true;
+    QString user;
+    if (isPeerOfThisUser(mSocket->socketDescriptor(), &user)) {
+        mConnected = true;
+        return;
+    }
+    qWarning("The server %s belongs to %s: it is not talked to.",
+        qUtf8Printable(mSocket->serverName()), qUtf8Printable(user));
+    // From here on all is as if the server had refused. The socket may still be
+    // inside of its connectToServer(), which would not survive an abort(): that
+    // waits, and whatever arrives until then is heard by nobody.
+    mSocket->disconnect(this);
+    QMetaObject::invokeMethod(mSocket, &QLocalSocket::abort, Qt::QueuedConnection);
 }
 
 void TutorialManager::onReadyRead()

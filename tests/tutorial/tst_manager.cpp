@@ -5,11 +5,15 @@
 #include "tests/support/windows.h"
 #include "tutorial/tutorialmanager.h"
 
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSignalSpy>
 #include <QtTest>
 
 #include <limits>
+#include <unistd.h>
 
 using namespace Tutorial;
 
@@ -28,6 +32,9 @@ class Options : public QObject {
 };
 
 namespace {
+
+// The manager takes its connection id from the application's arguments.
+char* arguments[3] = {};
 
 QString message(const QStringList& fields)
 {
@@ -64,6 +71,7 @@ private slots:
     void cleanup();
 
     void aMessageIsSentOnceConnected();
+    void anotherUsersServer();
     void nothingIsHandledBehindBye();
     void aBurstIsHandledWhole();
     void messagesBeforeStartAreIgnored();
@@ -127,6 +135,39 @@ void tst_Manager::aMessageIsSentOnceConnected()
                                       "1\1-2\1"
                                       "64\0");
     QTRY_COMPARE(sHost->receivedWithoutAlive(), expected);
+}
+
+// It gets no word, nothing that it says is heard, and the process ends as it
+// does without a server.
+void tst_Manager::anotherUsersServer()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can listen as another user");
+    QByteArray id = TestHost::randomId().toLatin1();
+    const QScopedValueRollback<char*> argument(arguments[1], id.data());
+    QLocalServer server;
+    QVERIFY(seteuid(65534) == 0);
+    const bool isListening = server.listen(QStringLiteral("vemo") + QLatin1String(id));
+    QVERIFY(seteuid(0) == 0);
+    QVERIFY2(isListening, qPrintable(server.errorString()));
+
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression(QStringLiteral("%1.*user 65534").arg(QLatin1String(id))));
+    auto* manager = new TutorialManager(qApp);
+    QSignalSpy ended(manager, &QObject::destroyed);
+    QVERIFY(server.waitForNewConnection(5000));
+    QLocalSocket* host = server.nextPendingConnection();
+    host->write(TestHost::packet({{QStringLiteral("start")}}));
+    host->flush();
+    QTRY_COMPARE(host->state(), QLocalSocket::UnconnectedState);
+    QVERIFY(ended.isEmpty());
+    for (int tick = 0; tick < 300; ++tick) {
+        QTimerEvent event(0);
+        QCoreApplication::sendEvent(manager, &event);
+    }
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(windows<TutorialTooltip>().isEmpty());
+    QCOMPARE(host->readAll(), QByteArray());
 }
 
 void tst_Manager::nothingIsHandledBehindBye()
@@ -325,9 +366,9 @@ void tst_Manager::windowKindOfAnObject()
 
 int main(int argc, char** argv)
 {
-    // The manager takes its connection id from the application's arguments.
     QByteArray id = TestHost::randomId().toLatin1();
-    char* arguments[] = {argv[0], id.data(), nullptr};
+    arguments[0] = argv[0];
+    arguments[1] = id.data();
     int count = 2;
     QApplication application(count, arguments);
     TestHost host(QString::fromLatin1(id));
