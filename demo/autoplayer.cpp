@@ -55,13 +55,15 @@ int enough(const QString& comparison, int number)
 
 } // namespace
 
-Autoplayer::Autoplayer(TutorialSession& session, const QString& screenshots)
-    : mSession(session), mScreenshots(screenshots)
+Autoplayer::Autoplayer(TutorialSession& session, const QString& screenshots, int minutes)
+    : mSession(session), mScreenshots(screenshots), mPlayMs(minutes * 60000LL)
 {
     connect(&session, &TutorialSession::stepShown, this, &Autoplayer::onStepShown);
     connect(&session, &TutorialSession::stepDone, this, &Autoplayer::onStepDone);
     connect(&session, &TutorialSession::failed, this, &Autoplayer::fail);
-    connect(&session, &TutorialSession::finished, this, [] { QCoreApplication::exit(0); });
+    // The session is done with the round when the next one begins.
+    connect(
+        &session, &TutorialSession::finished, this, &Autoplayer::onFinished, Qt::QueuedConnection);
     mTimer.setInterval(kTickMs);
     connect(&mTimer, &QTimer::timeout, this, &Autoplayer::tick);
 }
@@ -77,11 +79,27 @@ bool Autoplayer::start(const QString& path)
         errors << "tutorial-demo: the folder " << mScreenshots << " cannot be made\n";
         return false;
     }
-    if (!mSession.play(path))
-        return false;
-    mStepTime.start();
+    mPath = path;
+    mPlayTime.start();
     mTimer.start();
-    return true;
+    return playRound();
+}
+
+bool Autoplayer::playRound()
+{
+    mShown.clear();
+    mPictures = 0;
+    mStepTime.start();
+    return mSession.play(mPath);
+}
+
+void Autoplayer::onFinished()
+{
+    QTextStream(stdout) << "round " << ++mRounds << " ok\n";
+    if (mPlayTime.hasExpired(mPlayMs))
+        QCoreApplication::exit(0);
+    else if (!playRound())
+        fail(QStringLiteral("%1 cannot be played again").arg(mPath));
 }
 
 void Autoplayer::onStepShown(const Step& step)

@@ -18,18 +18,22 @@ struct Step;
 // learner sees, so a step that points to the wrong place is not passed.
 //
 // Ends the application with 0 when the scenario was played to its end, and with
-// 1 when a step takes too long or the tutorial is gone.
+// 1 when a step takes too long or the tutorial is gone. All rounds are played
+// with one process of the tutorial.
 class Autoplayer : public QObject {
     Q_OBJECT
 
 public:
-    // screenshots: folder for one picture a step; empty for none.
-    Autoplayer(TutorialSession& session, const QString& screenshots);
+    // screenshots: folder for one picture a step; empty for none. minutes: no
+    // round begins later than that, and at least one is played.
+    Autoplayer(TutorialSession& session, const QString& screenshots, int minutes);
 
     // Plays the file. False, with a message, when that cannot be.
     bool start(const QString& path);
 
 private:
+    bool playRound();
+    void onFinished();
     void onStepShown(const Step& step);
     void onStepDone(const Step& step);
     void tick();
@@ -44,14 +48,18 @@ private:
 
     TutorialSession& mSession;
     QString mScreenshots;
+    qint64 mPlayMs;
+    QString mPath;
     XInput mInput;
     QTimer mTimer;
+    QElapsedTimer mPlayTime;
+    int mRounds = 0;
     // Since the step began, and since it was shown.
     QElapsedTimer mStepTime;
     QElapsedTimer mShownTime;
     // The step is shown and has not been acted on yet.
     bool mToBeDone = false;
     int mPictures = 0;
-    // How often each step was shown.
+    // How often each step was shown in this round.
     QHash<QString, int> mShown;
 };

@@ -25,6 +25,7 @@ struct Arguments {
     QString edited;
     QString screenshots;
     bool autoplay = false;
+    int minutes = 0;
 };
 
 void tell(const QString& text)
@@ -78,7 +79,9 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     const QCommandLineOption screenshots(QStringLiteral("screenshots"),
         QStringLiteral("With --autoplay: keep a picture of every step there."),
         QStringLiteral("DIR"));
-    parser.addOptions({help, language, tutorial, play, autoplay, edit, screenshots});
+    const QCommandLineOption minutes(QStringLiteral("minutes"),
+        QStringLiteral("With --autoplay: play again and again for so long."), QStringLiteral("N"));
+    parser.addOptions({help, language, tutorial, play, autoplay, edit, screenshots, minutes});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return complain(parser.errorText(), kWrongUsage);
@@ -97,8 +100,15 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     if (int(parser.isSet(play)) + int(parser.isSet(autoplay)) + int(parser.isSet(edit)) > 1)
         return complain(
             QStringLiteral("--play, --autoplay and --edit exclude each other"), kWrongUsage);
-    if (parser.isSet(screenshots) && !parser.isSet(autoplay))
-        return complain(QStringLiteral("--screenshots needs --autoplay"), kWrongUsage);
+    for (const QCommandLineOption& option : {screenshots, minutes}) {
+        if (parser.isSet(option) && !parser.isSet(autoplay))
+            return complain(
+                QStringLiteral("--%1 needs --autoplay").arg(option.names().first()), kWrongUsage);
+    }
+    arguments->minutes = parser.value(minutes).toInt();
+    if (parser.isSet(minutes) && arguments->minutes <= 0)
+        return complain(
+            QStringLiteral("“%1” is no number of minutes").arg(parser.value(minutes)), kWrongUsage);
 
     arguments->tutorial = parser.value(tutorial);
     arguments->screenshots = parser.value(screenshots);
@@ -214,7 +224,7 @@ int main(int argc, char** argv)
             return complain(QStringLiteral("--autoplay needs an X server; the platform here is %1")
                                 .arg(QGuiApplication::platformName()),
                 kFailed);
-        Autoplayer autoplayer(session, arguments.screenshots);
+        Autoplayer autoplayer(session, arguments.screenshots, arguments.minutes);
         if (!autoplayer.start(arguments.scenario))
             return kFailed;
         return QApplication::exec();

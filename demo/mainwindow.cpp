@@ -44,7 +44,6 @@ MainWindow::MainWindow(WindowRegistry& registry)
 
     setOptions(mOptions);
     loadPreset(QStringLiteral("meadow"));
-    mTileList->setCurrentRow(0);
 }
 
 QAction* MainWindow::newAction(const char* name, const QString& text)

@@ -49,6 +49,7 @@ bool MainWindow::loadPreset(const QString& name)
     zoomTo(100);
     for (const char* choice : {"Map", "Pencil"})
         action(choice)->setChecked(true);
+    mTileList->setCurrentRow(0);
     return true;
 }
 

@@ -12,7 +12,7 @@ packages=(
   # the demo's pointer and keyboard: X11 and its test extension
   libx11-dev libxtst-dev
   # a display without a screen: server, window manager, compositor, tools
-  xvfb openbox picom xdotool x11-utils xauth
+  xvfb openbox picom xdotool x11-utils xrestop xauth
   # a plain font for the windows
   fonts-dejavu-core
 )
@@ -22,7 +22,7 @@ if ! command -v apt-get >/dev/null 2>&1; then
 $0: this system does not install Debian packages. Please install, by the names
 that your system has for them: a C++17 compiler, CMake 3.24 or newer, Ninja,
 Qt 5.15 (base with private tools, Linguist tools), the X11 and XTest
-development files, Xvfb, openbox, picom, xdotool, xprop and xwininfo, and the
+development files, Xvfb, openbox, picom, xdotool, xprop, xwininfo and xrestop, and the
 DejaVu fonts. In Debian they are:
   ${packages[*]}
 Then run scripts/test.sh or scripts/demo.sh with TUTORIAL_SKIP_BOOTSTRAP=1.

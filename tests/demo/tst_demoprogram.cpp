@@ -32,7 +32,8 @@ void tst_DemoProgram::wrongUsage_data()
     QTest::addColumn<QStringList>("arguments");
     for (const char* line : {"--unknown", "--play no-such-scenario", "--language tlh",
              "--play first-steps --autoplay first-steps", "--edit no-such-file.js",
-             "--play first-steps --edit README.md"})
+             "--play first-steps --edit README.md", "--play first-steps --minutes 5",
+             "--autoplay first-steps --minutes soon"})
         QTest::newRow(line) << QString::fromLatin1(line).split(QLatin1Char(' '));
 }
 
