@@ -2,6 +2,7 @@
 
 #include "editor/hostmessages.h"
 #include "editor/manager.h"
+#include "tutorial/terminationsignals.h"
 #include "tutorial/tutorialmanager.h"
 
 #include <QApplication>
@@ -49,6 +50,9 @@ int runApplication(int argc, char** argv)
 
     auto* manager = new TutorialManager(&application);
     manager->init();
+    const TerminationSignals terminationSignals;
+    QObject::connect(
+        &terminationSignals, &TerminationSignals::received, manager, &TutorialManager::close);
     const TutorialEditor::HostMessages hostMessages(manager);
     const int exitCode = QApplication::exec();
     if (TutorialEditor::Manager::mInstance)

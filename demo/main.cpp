@@ -2,6 +2,7 @@
 #include "demo/mainwindow.h"
 #include "demo/tutorialsession.h"
 #include "demo/windowregistry.h"
+#include "tutorial/terminationsignals.h"
 #ifdef DEMO_AUTOPLAY
 #include "demo/autoplayer.h"
 #endif
@@ -17,6 +18,8 @@ namespace {
 
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
+// As a shell reports it; the number of the signal is added.
+constexpr int kEndedBySignal = 128;
 
 struct Arguments {
     QString language;
@@ -176,6 +179,9 @@ int main(int argc, char** argv)
     preferX11();
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tutorial-demo"));
+    const TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::received, &application,
+        [](int number) { QCoreApplication::exit(kEndedBySignal + number); });
     setLook(application);
     QTranslator translator;
     if (translator.load(QStringLiteral(":/translations/tutorial-demo_%1").arg(arguments.language)))
