@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QPainterPath>
+#include <QPixmapCache>
 
 #include <functional>
 
@@ -121,15 +122,23 @@ void fence(QPainter& painter)
         bar(painter, QColor(0xa8, 0x7a, 0x4a), x, 8, 6, 20, 2);
 }
 
-QPixmap square(int edge, int drawnEdge, const std::function<void(QPainter&)>& draw)
+// Drawn once for each name: what Qt keeps of an icon, scaled or grey, belongs to
+// its pixmap, and would pile up with a new one each time that a list is filled.
+QPixmap square(
+    const QString& name, int edge, int drawnEdge, const std::function<void(QPainter&)>& draw)
 {
+    const QString key = QStringLiteral("%1 %2").arg(name).arg(edge);
     QPixmap pixmap(edge, edge);
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.scale(double(edge) / drawnEdge, double(edge) / drawnEdge);
     draw(painter);
+    painter.end();
+    QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 
@@ -297,7 +306,8 @@ void Artwork::paintPerson(QPainter& painter, const QColor& colour)
 
 QIcon Artwork::tileIcon(Tile tile)
 {
-    return square(kTileEdge, kTileEdge, [tile](QPainter& painter) { paintTile(painter, tile); });
+    return square(QStringLiteral("tile %1").arg(int(tile)), kTileEdge, kTileEdge,
+        [tile](QPainter& painter) { paintTile(painter, tile); });
 }
 
 QIcon Artwork::actionIcon(const QString& name)
@@ -325,11 +335,11 @@ QIcon Artwork::actionIcon(const QString& name)
         return {};
     QIcon icon;
     for (int edge : {24, 48})
-        icon.addPixmap(square(edge, 24, draw));
+        icon.addPixmap(square(name, edge, 24, draw));
     return icon;
 }
 
 QIcon Artwork::applicationIcon()
 {
-    return square(64, 24, mapSheet);
+    return square(QStringLiteral("application"), 64, 24, mapSheet);
 }

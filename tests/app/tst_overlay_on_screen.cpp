@@ -9,9 +9,14 @@
 #include <QWindow>
 #include <QtTest>
 
+#include <csignal>
+#include <cstring>
+
 namespace {
 
 constexpr int kDeadlineMs = 20000;
+// Well before the 30 silent seconds after which the program ends by itself.
+constexpr int kPromptMs = 10000;
 const QColor kBackground(0, 90, 160);
 
 // From the target that is sent to the place that the arrow points at, in px.
@@ -73,6 +78,7 @@ private slots:
     void buttonsAnswer();
     void overlayStaysAboveWindowsThatOpenLater();
     void hostHidesAndShows();
+    void nothingStaysOnTheScreen_data();
     void nothingStaysOnTheScreen();
 
 private:
@@ -283,13 +289,64 @@ void tst_OverlayOnScreen::hostHidesAndShows()
     QVERIFY(waitForOverlay(false));
 }
 
+void tst_OverlayOnScreen::nothingStaysOnTheScreen_data()
+{
+    QTest::addColumn<int>("signalNumber"); // 0 for "bye"
+    QTest::addColumn<bool>("endsInOrder");
+    QTest::addColumn<bool>("asksAuthor");
+    QTest::newRow("bye") << 0 << true << false;
+    for (int number : {SIGTERM, SIGINT, SIGHUP})
+        QTest::newRow(strsignal(number)) << number << true << false;
+    for (int number : {SIGSEGV, SIGABRT, SIGKILL})
+        QTest::newRow(strsignal(number)) << number << false << false;
+    QTest::newRow("Terminated under a question") << int(SIGTERM) << true << true;
+}
+
 void tst_OverlayOnScreen::nothingStaysOnTheScreen()
 {
+    QFETCH(int, signalNumber);
+    QFETCH(bool, endsInOrder);
+    QFETCH(bool, asksAuthor);
+    QTemporaryDir folder;
+    const QString id = QString::number(mHost->process().processId());
+    const auto hasWindows = [&id] {
+        return runXdotool({QStringLiteral("search"), QStringLiteral("--pid"), id}) == 0;
+    };
+    mHost->send({update(QStringLiteral("Go on"), Tutorial::ShowNextFlag, 0)});
+    if (asksAuthor) {
+        // To open a file again is a question when one of its steps has changed.
+        const QString scenario = folder.filePath(QStringLiteral("scenario.js"));
+        QVERIFY(QFile::copy(QFINDTESTDATA("../../demo/scenarios/first-steps.js"), scenario));
+        const auto editor = [](const char* fields) {
+            return QStringLiteral("editor %1").arg(QLatin1String(fields)).split(QLatin1Char(' '));
+        };
+        const QStringList open = editor("open") << scenario;
+        mHost->send({open, editor("focus 0 0"), editor("coordinates 7 7"), open});
+        QTRY_VERIFY_WITH_TIMEOUT(
+            runXdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                QStringLiteral("--name"), QStringLiteral("^Save$")})
+                == 0,
+            kDeadlineMs);
+    }
     QVERIFY(waitForOverlay(true));
-    mHost->send({{QStringLiteral("bye")}});
-    QTRY_COMPARE_WITH_TIMEOUT(mHost->process().state(), QProcess::NotRunning, kDeadlineMs);
-    QCOMPARE(mHost->process().exitCode(), 0);
-    QVERIFY(waitForOverlay(false));
+    QTRY_VERIFY_WITH_TIMEOUT(hasWindows(), kDeadlineMs);
+
+    if (signalNumber == 0)
+        mHost->send({{QStringLiteral("bye")}});
+    else
+        kill(mHost->process().processId(), signalNumber);
+    QTRY_COMPARE_WITH_TIMEOUT(mHost->process().state(), QProcess::NotRunning, kPromptMs);
+    if (endsInOrder) {
+        QCOMPARE(mHost->process().exitStatus(), QProcess::NormalExit);
+        QCOMPARE(mHost->process().exitCode(), 0);
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(isClean() && !hasWindows(), kPromptMs);
+
+    // The next one, with the same connection id.
+    mHost->reset();
+    QVERIFY(mHost->startAndConnect());
+    mHost->send({{QStringLiteral("start")}, updateXy({400, 300})});
+    QVERIFY(waitForOverlay(true));
 }
 
 QTEST_MAIN(tst_OverlayOnScreen)

@@ -1,6 +1,8 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <csignal>
+
 // The program as it is called from a shell.
 class tst_DemoProgram : public QObject {
     Q_OBJECT
@@ -9,6 +11,7 @@ private slots:
     void wrongUsage_data();
     void wrongUsage();
     void autoplayTellsWhereItIsStuck();
+    void signalEndsItsTutorialToo();
 
 private:
     // Runs the program to its end; its exit code, and its error output.
@@ -64,6 +67,25 @@ void tst_DemoProgram::autoplayTellsWhereItIsStuck()
     scenario.close();
     QCOMPARE(run({QStringLiteral("--autoplay"), scenario.fileName()}), 1);
     QVERIFY2(mErrors.contains(QLatin1String("[1] action,New Project,")), qPrintable(mErrors));
+}
+
+void tst_DemoProgram::signalEndsItsTutorialToo()
+{
+    const auto hasTutorial = [] {
+        return QProcess::execute(QStringLiteral("xdotool"),
+                   {QStringLiteral("search"), QStringLiteral("--classname"),
+                       QStringLiteral("^tutorial$")})
+            == 0;
+    };
+    QProcess program;
+    program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial-demo"),
+        {QStringLiteral("--play"), QStringLiteral("first-steps")});
+    QTRY_VERIFY_WITH_TIMEOUT(hasTutorial(), 20000);
+    program.terminate();
+    QVERIFY(program.waitForFinished(20000));
+    QCOMPARE(program.exitCode(), 128 + SIGTERM);
+    // It would go on for 30 seconds without a word from its host.
+    QTRY_VERIFY(!hasTutorial());
 }
 
 QTEST_GUILESS_MAIN(tst_DemoProgram)
