@@ -130,7 +130,8 @@ void Autoplayer::tick()
         fail(QStringLiteral("waited %1 s for %2").arg(kDeadlineMs / 1000).arg(what));
         return;
     }
-    if (mToBeDone && mShownTime.hasExpired(kPaintMs) && arrowHasArrived() && takeScreenshot()) {
+    if (mToBeDone && mShownTime.hasExpired(kPaintMs) && arrowHasArrived() && answersAreOnShow()
+        && takeScreenshot()) {
         mToBeDone = false;
         act();
     }
@@ -145,6 +146,29 @@ bool Autoplayer::arrowHasArrived()
             && (isNear(window.x(), wanted.x()) || isNear(window.x(), wanted.x() - kFlippedBy))
             && (isNear(window.y(), wanted.y()) || isNear(window.y(), wanted.y() + kFlippedDown));
     });
+}
+
+QVector<QRect> Autoplayer::answerButtons() const
+{
+    QVector<QRect> buttons = mInput.windowsOf(mSession.link().processId());
+    buttons.erase(std::remove_if(buttons.begin(), buttons.end(),
+                      [](const QRect& window) { return window.size() != kButtonSize; }),
+        buttons.end());
+    std::sort(buttons.begin(), buttons.end(),
+        [](const QRect& a, const QRect& b) { return a.x() < b.x(); });
+    return buttons;
+}
+
+bool Autoplayer::answersAreOnShow() const
+{
+    switch (mSession.player().step().condition.kind) {
+    case Condition_click:
+        return answerButtons().size() == 1;
+    case Condition_yesNo:
+        return answerButtons().size() == 2;
+    default:
+        return true;
+    }
 }
 
 bool Autoplayer::takeScreenshot()
@@ -210,23 +234,10 @@ void Autoplayer::enter(const Condition& condition)
 // both branches are played.
 void Autoplayer::clickAnswer(const Step& step)
 {
-    QVector<QRect> buttons = mInput.windowsOf(mSession.link().processId());
-    buttons.erase(std::remove_if(buttons.begin(), buttons.end(),
-                      [](const QRect& window) { return window.size() != kButtonSize; }),
-        buttons.end());
-    const int expected = step.condition.kind == Condition_yesNo ? 2 : 1;
-    if (buttons.size() != expected) {
-        fail(QStringLiteral("%1 %2: %3 buttons instead of %4")
-                 .arg(step.pathText(), step.condition.text)
-                 .arg(buttons.size())
-                 .arg(expected));
-        return;
-    }
     // The two overlap in the middle: each is clicked at its outer edge.
-    std::sort(buttons.begin(), buttons.end(),
-        [](const QRect& a, const QRect& b) { return a.x() < b.x(); });
-    const bool no = expected == 2 && mShown.value(step.pathText()) > 1;
-    const QRect button = no ? buttons.last() : buttons.first();
+    const QVector<QRect> buttons = answerButtons();
+    const bool no = buttons.size() > 1 && mShown.value(step.pathText()) > 1;
+    const QRect button = buttons.value(no ? 1 : 0);
     const int fromEdge = kButtonSize.width() / 4;
     mInput.click({no ? button.right() - fromEdge : button.left() + fromEdge, button.center().y()});
 }

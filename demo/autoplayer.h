@@ -38,6 +38,9 @@ private:
     void onStepDone(const Step& step);
     void tick();
     bool arrowHasArrived();
+    // The tutorial's own buttons that are on show, from left to right.
+    QVector<QRect> answerButtons() const;
+    bool answersAreOnShow() const;
     // False when it is not the time yet: the arrow is to be at rest.
     bool takeScreenshot();
     void act();
