@@ -96,12 +96,16 @@ void tst_Process::byeEndsIt()
 
 void tst_Process::silenceEndsIt()
 {
-    // One is refused and never hears anything, one hears its last at 2 seconds.
+    // One is refused and never hears anything, one loses its connection at once
+    // and goes on writing, one hears its last at 2 seconds.
     TestHost refused;
+    TestHost deserted;
     TestHost silent;
     QElapsedTimer clock;
     clock.start();
     QVERIFY(refused.startProgram({TestHost::randomId()}));
+    QVERIFY(deserted.startAndConnect());
+    deserted.hangUp();
     QVERIFY(silent.startAndConnect());
     QTRY_COMPARE_WITH_TIMEOUT(silent.receivedBytes().size(), 16, kDeadlineMs);
     silent.sendBytes("x");
@@ -109,6 +113,7 @@ void tst_Process::silenceEndsIt()
 
     QTRY_VERIFY_WITH_TIMEOUT(hasEnded(&refused.process()), 45000);
     const qint64 refusedMs = clock.elapsed();
+    QTRY_VERIFY_WITH_TIMEOUT(hasEnded(&deserted.process()), 15000);
     QTRY_VERIFY_WITH_TIMEOUT(hasEnded(&silent.process()), 15000);
     const qint64 silentMs = clock.elapsed() - lastSign;
     for (qint64 ms : {refusedMs, silentMs}) {
@@ -116,6 +121,7 @@ void tst_Process::silenceEndsIt()
             qPrintable(QStringLiteral("refused %1 ms, silent %2 ms").arg(refusedMs).arg(silentMs)));
     }
     QCOMPARE(refused.process().exitCode(), 0);
+    QCOMPARE(deserted.process().exitCode(), 0);
     QCOMPARE(silent.process().exitCode(), 0);
     QVERIFY(silent.receivedBytes().size() >= 8 * 28);
 }

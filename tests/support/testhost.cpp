@@ -74,6 +74,11 @@ void TestHost::send(const QList<QStringList>& messages)
     sendBytes(packet(messages));
 }
 
+void TestHost::hangUp()
+{
+    delete mSocket;
+}
+
 QByteArray TestHost::packet(const QList<QStringList>& messages)
 {
     QByteArray data("0");

@@ -42,6 +42,8 @@ public:
     void sendBytes(const QByteArray& data);
     // Sends messages, each a list of fields, in one packet.
     void send(const QList<QStringList>& messages);
+    // Closes the connection, as a host does that crashes.
+    void hangUp();
     static QByteArray packet(const QList<QStringList>& messages);
 
 private:
