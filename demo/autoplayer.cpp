@@ -95,7 +95,7 @@ bool Autoplayer::playRound()
 
 void Autoplayer::onFinished()
 {
-    QTextStream(stdout) << "round " << ++mRounds << " ok\n";
+    QTextStream(stdout) << "round " << ++mRounds << " done\n";
     if (mPlayTime.hasExpired(mPlayMs))
         QCoreApplication::exit(0);
     else if (!playRound())
