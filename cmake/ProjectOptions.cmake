@@ -1,7 +1,9 @@
 # Flags that every target of the project shares: link `project_options`.
 add_library(project_options INTERFACE)
 target_include_directories(project_options INTERFACE ${CMAKE_SOURCE_DIR})
-target_compile_options(project_options INTERFACE -Wall -Wextra -Wshadow -Wpedantic)
+target_compile_options(project_options INTERFACE -Wall -Wextra -Wshadow -Wpedantic
+  # Qt's own qCDebug() is such a macro.
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)
 target_compile_definitions(project_options INTERFACE
   QT_NO_CAST_FROM_ASCII
   QT_NO_CAST_TO_ASCII
@@ -12,10 +14,14 @@ if(TUTORIAL_WERROR)
   target_compile_options(project_options INTERFACE -Werror)
 endif()
 
-if(TUTORIAL_SANITIZE)
+if(TUTORIAL_SANITIZE OR TUTORIAL_FUZZ)
+  set(checks address,undefined)
+  if(TUTORIAL_FUZZ)
+    string(APPEND checks ,fuzzer-no-link)
+  endif()
   # One runtime for the whole process, so the flags go to every target at once.
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  add_compile_options(-fsanitize=${checks} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${checks})
   add_library(keep_modules OBJECT ${CMAKE_CURRENT_LIST_DIR}/keepmodules.cpp)
   link_libraries($<TARGET_OBJECTS:keep_modules>)
 endif()

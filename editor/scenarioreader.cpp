@@ -148,7 +148,7 @@ QJsonArray TutorialEditor::parseSteps(const QString& text, QStringList* errors)
         return QJsonArray();
     }
     constexpr int kShownLength = 60;
-    const int position = QString::fromUtf8(bytes.left(error.offset)).size();
+    const int position = QString::fromUtf8(bytes.constData(), error.offset).size();
     const int lineBegin = position > 0 ? text.lastIndexOf(QLatin1Char('\n'), position - 1) + 1 : 0;
     const QString line =
         text.mid(lineBegin, text.indexOf(QLatin1Char('\n'), lineBegin) - lineBegin);

@@ -9,6 +9,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 using namespace TutorialEditor;
 
 namespace {
@@ -29,20 +31,24 @@ void appendCommentHint(QString* out, QString text)
     *out += text;
 }
 
-// Keys are copied as they are, unless that would end the key's string.
-void appendKey(QString* out, const QString& key)
-{
-    if (key.contains(QLatin1Char('"')) || key.contains(QLatin1Char('\\')))
-        appendQuoted(out, key);
-    else
-        *out += QLatin1Char('"') + key + QLatin1Char('"');
-}
-
 // Any JSON value as it is.
 void appendJson(QString* out, const QJsonValue& value)
 {
     const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     *out += QString::fromUtf8(list.mid(1, list.size() - 2));
+}
+
+// Keys are copied as they are, unless that would end the key's string or its line.
+void appendKey(QString* out, const QString& key)
+{
+    const bool isPlain = std::none_of(key.begin(), key.end(), [](QChar character) {
+        return character == QLatin1Char('"') || character == QLatin1Char('\\')
+            || character < QLatin1Char(' ');
+    });
+    if (isPlain)
+        *out += QLatin1Char('"') + key + QLatin1Char('"');
+    else
+        appendJson(out, key);
 }
 
 void appendValue(QString* out, const QString& key, const QJsonValue& value)

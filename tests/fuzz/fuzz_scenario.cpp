@@ -1,0 +1,81 @@
+#include "editor/savecheck.h"
+#include "editor/scenarioreader.h"
+#include "editor/scenariowriter.h"
+#include "editor/translationexpression.h"
+#include "tests/fuzz/fuzzer.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace TutorialEditor;
+
+namespace {
+
+// What a step and the steps below it say about being written.
+struct Traits {
+    // A text that is written bare is not one whole expression, so that no reader
+    // can tell where it ends.
+    bool isHalfExpression = false;
+    // A group's hint, which is copied as it is, cannot stand in quotes.
+    bool isUnquotable = false;
+
+    explicit Traits(const QJsonArray& steps)
+    {
+        for (const QJsonValue& value : steps) {
+            const QJsonObject step = value.toObject();
+            const QString hint = step.value(QLatin1String("hint")).toString();
+            look(hint);
+            look(step.value(QLatin1String("comment")).toString());
+            if (!step.contains(QLatin1String("group")))
+                continue;
+            for (QChar character : hint) {
+                if (character == QLatin1Char('"') || character == QLatin1Char('\\'))
+                    isUnquotable = true;
+            }
+            const Traits below(step.value(QLatin1String("group")).toArray());
+            isHalfExpression |= below.isHalfExpression;
+            isUnquotable |= below.isUnquotable;
+        }
+    }
+
+private:
+    void look(const QString& text)
+    {
+        TranslationExpression expression;
+        isHalfExpression |=
+            beginsTranslationExpression(text) && !parseTranslationExpression(text, &expression);
+    }
+};
+
+} // namespace
+
+// What was read without an error is written and read again unchanged, or the
+// author is told which step cannot be.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const QtParsesJson noLeaks;
+    QStringList errors;
+    const QString input = textOf(data, size);
+    const QJsonArray steps = readScenario(input, &errors);
+    // Qt's parser does not order keys that differ behind a zero byte.
+    if (!errors.isEmpty() || input.contains(QChar::Null))
+        return 0;
+
+    const QString json = scenarioJson(steps);
+    const QString text = textOf(scenarioFileText(json).toUtf8());
+    const bool isUnicode = text == scenarioFileText(json); // without half a surrogate pair
+    const bool isSame = scenarioJson(readScenario(text, &errors)) == json && errors.isEmpty();
+    const Traits traits(steps);
+    expect(isSame || traits.isHalfExpression || !isUnicode,
+        "what was read is written and read again unchanged");
+    expect(isSame == findUnreadable(json, steps).isEmpty(),
+        "exactly what cannot be read again is reported");
+
+    if (!traits.isUnquotable) {
+        const QString copied = scenarioJson(steps, StepListForm::Copied);
+        const QJsonDocument pasted = QJsonDocument::fromJson(copied.toUtf8());
+        expect(pasted.isArray(), "what was copied is JSON");
+        expect(scenarioJson(pasted.array()).toUtf8() == json.toUtf8(), "what was copied is pasted");
+    }
+    return 0;
+}
