@@ -5,6 +5,7 @@
 #include "editor/translationescape.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QTextCodec>
 #include <QVector>
@@ -14,6 +15,8 @@
 using namespace TutorialEditor;
 
 namespace {
+
+constexpr qint64 kLargestFile = 256 * 1024 * 1024; // bytes
 
 // Position of two characters that are side by side. Texts hold few that are
 // like the second one, so this is much faster than to walk; -1 for none.
@@ -87,8 +90,9 @@ int findMarker(const QString& text, const QString& marker)
 
 bool TutorialEditor::readScenarioText(const QString& path, QString* text, QStringList* errors)
 {
+    // A pipe would be waited for, and a device may never end.
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile)
         return false;
     const QByteArray bytes = file.readAll();
     QTextCodec::ConverterState state;

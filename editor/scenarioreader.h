@@ -9,8 +9,9 @@
 // the author's eyes. Each function takes time in proportion to the text's size.
 namespace TutorialEditor {
 
-// The whole text of the file; false when the file cannot be opened. Bytes that
-// are not UTF-8 come out as replacement characters and are reported.
+// The whole text of the file; false when the file cannot be opened, which must be
+// a regular one of at most 256 MiB. Bytes that are not UTF-8 come out as
+// replacement characters and are reported.
 bool readScenarioText(const QString& path, QString* text, QStringList* errors);
 
 // Without block comments, then without the lines that hold a line comment and

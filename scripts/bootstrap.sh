@@ -7,6 +7,8 @@ set -eu
 packages=(
   # compiler and build system
   g++ cmake ninja-build clang-format
+  # the fuzzers' compiler, its run-time libraries, and names in their reports
+  clang libclang-rt-dev llvm
   # Qt 5: libraries, headers, moc and rcc, and the translation tools
   qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
   # the demo's pointer and keyboard: X11 and its test extension
@@ -20,10 +22,10 @@ packages=(
 if ! command -v apt-get >/dev/null 2>&1; then
   cat >&2 <<EOF
 $0: this system does not install Debian packages. Please install, by the names
-that your system has for them: a C++17 compiler, CMake 3.24 or newer, Ninja,
-Qt 5.15 (base with private tools, Linguist tools), the X11 and XTest
-development files, Xvfb, openbox, picom, xdotool, xprop, xwininfo and xrestop, and the
-DejaVu fonts. In Debian they are:
+that your system has for them: a C++17 compiler, clang 14 or newer with libFuzzer
+and the sanitizers, CMake 3.24 or newer, Ninja, Qt 5.15 (base with private tools,
+Linguist tools), the X11 and XTest development files, Xvfb, openbox, picom,
+xdotool, xprop, xwininfo and xrestop, and the DejaVu fonts. In Debian they are:
   ${packages[*]}
 Then run scripts/test.sh or scripts/demo.sh with TUTORIAL_SKIP_BOOTSTRAP=1.
 EOF

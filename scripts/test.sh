@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is needed, builds the release and the sanitized programs without
-# a warning, and runs every test with both. The last line counts the tests.
+# a warning, and runs every test with both, and each fuzzer for a minute. The
+# last line counts the tests.
 #
-#   scripts/test.sh [PRESET ...]     (release asan)
+#   scripts/test.sh [PRESET ...]     (release asan fuzz)
 #
 # TUTORIAL_SKIP_BOOTSTRAP: set it to leave the system's packages alone.
 set -eu
@@ -11,7 +12,7 @@ cd "$(dirname "$0")/.."
 [ -n "${TUTORIAL_SKIP_BOOTSTRAP:-}" ] || scripts/bootstrap.sh
 
 presets=("$@")
-[ ${#presets[@]} -gt 0 ] || presets=(release asan)
+[ ${#presets[@]} -gt 0 ] || presets=(release asan fuzz)
 jobs=$(nproc)
 failed=0
 logs=()
@@ -22,7 +23,8 @@ for preset in "${presets[@]}"; do
   logs+=("build/$preset/Testing/Temporary/LastTest.log")
 done
 
-# A test program reports its own cases; a scenario that was played counts as one.
+# A test program reports its own cases; a scenario that was played counts as one,
+# and so does a fuzzer.
 awk -v broken="$failed" '
   /^Totals: / { passed += $2; failures += $4; cases = 1 }
   /^Test (Passed|Failed)\.$/ {

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using namespace TutorialEditor;
 
 class tst_ScenarioReader : public QObject {
@@ -140,6 +142,14 @@ void tst_ScenarioReader::files()
         QVERIFY(write(QByteArray("[{\"group\":\n").repeated(depth)));
         QVERIFY(!readScenarioFile(path, &steps, &errors));
     }
+
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    QFile large(folder.filePath(QStringLiteral("large")));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(256 * 1024 * 1024 + 1));
+    QString text;
+    for (const QString& endless : {pipe, QStringLiteral("/dev/zero"), large.fileName()})
+        QVERIFY2(!readScenarioText(endless, &text, &errors), qPrintable(endless));
 }
 
 QTEST_APPLESS_MAIN(tst_ScenarioReader)

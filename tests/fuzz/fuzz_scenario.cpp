@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 using namespace TutorialEditor;
 
 namespace {
@@ -57,17 +59,21 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     QStringList errors;
     const QString input = textOf(data, size);
     const QJsonArray steps = readScenario(input, &errors);
-    // Qt's parser does not order keys that differ behind a zero byte.
-    if (!errors.isEmpty() || input.contains(QChar::Null))
+    if (!errors.isEmpty())
         return 0;
 
     const QString json = scenarioJson(steps);
-    const QString text = textOf(scenarioFileText(json).toUtf8());
-    const bool isUnicode = text == scenarioFileText(json); // without half a surrogate pair
-    const bool isSame = scenarioJson(readScenario(text, &errors)) == json && errors.isEmpty();
+    const bool hasSurrogates =
+        std::any_of(json.begin(), json.end(), [](QChar c) { return c.isSurrogate(); });
+    // Qt's parser orders keys with such characters by whether they were escaped,
+    // and half a pair of surrogates, which must have been, cannot be in a file.
+    if (input.contains(QChar::Null) || (hasSurrogates && input.contains(QLatin1String("\\u"))))
+        return 0;
+
+    const QString file = textOf(scenarioFileText(json).toUtf8());
+    const bool isSame = scenarioJson(readScenario(file, &errors)) == json && errors.isEmpty();
     const Traits traits(steps);
-    expect(isSame || traits.isHalfExpression || !isUnicode,
-        "what was read is written and read again unchanged");
+    expect(isSame || traits.isHalfExpression, "what was read is written and read again unchanged");
     expect(isSame == findUnreadable(json, steps).isEmpty(),
         "exactly what cannot be read again is reported");
 

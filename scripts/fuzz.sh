@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Builds the fuzzers and runs them, all at once, for some time. An input that
+# breaks a rule ends its fuzzer and is put into build/fuzz/findings; give the
+# file to the program, build/fuzz/bin/fuzz_TARGET, to see it again.
+#
+#   scripts/fuzz.sh [SECONDS [TARGET ...]]     (60 link scenario step untr)
+#
+# TUTORIAL_SKIP_BOOTSTRAP: set it to leave the system's packages alone.
+set -eu
+cd "$(dirname "$0")/.."
+
+seconds=${1:-60}
+targets=("${@:2}")
+[ ${#targets[@]} -gt 0 ] || targets=(link scenario step untr)
+
+[ -n "${TUTORIAL_SKIP_BOOTSTRAP:-}" ] || scripts/bootstrap.sh
+cmake --preset fuzz -DTUTORIAL_FUZZ_SECONDS="$seconds" >/dev/null
+cmake --build --preset fuzz
+wanted=$(IFS='|' && echo "${targets[*]}")
+ctest --preset fuzz --verbose --parallel ${#targets[@]} --tests-regex "^fuzz_($wanted)\$"
