@@ -13,39 +13,32 @@ using namespace TutorialEditor;
 
 namespace {
 
-// What a step and the steps below it say about being written.
+// What steps, and the steps in their groups, say about being written.
 struct Traits {
     // A text that is written bare is not one whole expression, so that no reader
-    // can tell where it ends.
-    bool isHalfExpression = false;
+    // can tell where it ends; or a key looks like one.
+    bool hasHalfExpression = false;
     // A group's hint, which is copied as it is, cannot stand in quotes.
-    bool isUnquotable = false;
+    bool hasUnquotable = false;
 
-    explicit Traits(const QJsonArray& steps)
+    void look(const QJsonArray& steps)
     {
         for (const QJsonValue& value : steps) {
             const QJsonObject step = value.toObject();
             const QString hint = step.value(QLatin1String("hint")).toString();
-            look(hint);
-            look(step.value(QLatin1String("comment")).toString());
-            if (!step.contains(QLatin1String("group")))
-                continue;
-            for (QChar character : hint) {
-                if (character == QLatin1Char('"') || character == QLatin1Char('\\'))
-                    isUnquotable = true;
+            for (const QString& text : {hint, step.value(QLatin1String("comment")).toString()}) {
+                TranslationExpression expression;
+                hasHalfExpression |= beginsTranslationExpression(text)
+                    && !parseTranslationExpression(text, &expression);
             }
-            const Traits below(step.value(QLatin1String("group")).toArray());
-            isHalfExpression |= below.isHalfExpression;
-            isUnquotable |= below.isUnquotable;
+            for (const QString& key : step.keys())
+                hasHalfExpression |= beginsTranslationExpression(key);
+            if (step.contains(QLatin1String("group"))) {
+                hasUnquotable |=
+                    hint.contains(QLatin1Char('"')) || hint.contains(QLatin1Char('\\'));
+                look(step.value(QLatin1String("group")).toArray());
+            }
         }
-    }
-
-private:
-    void look(const QString& text)
-    {
-        TranslationExpression expression;
-        isHalfExpression |=
-            beginsTranslationExpression(text) && !parseTranslationExpression(text, &expression);
     }
 };
 
@@ -72,12 +65,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 
     const QString file = textOf(scenarioFileText(json).toUtf8());
     const bool isSame = scenarioJson(readScenario(file, &errors)) == json && errors.isEmpty();
-    const Traits traits(steps);
-    expect(isSame || traits.isHalfExpression, "what was read is written and read again unchanged");
+    Traits traits;
+    traits.look(steps);
+    expect(isSame || traits.hasHalfExpression, "what was read is written and read again unchanged");
     expect(isSame == findUnreadable(json, steps).isEmpty(),
         "exactly what cannot be read again is reported");
 
-    if (!traits.isUnquotable) {
+    if (!traits.hasUnquotable) {
         const QString copied = scenarioJson(steps, StepListForm::Copied);
         const QJsonDocument pasted = QJsonDocument::fromJson(copied.toUtf8());
         expect(pasted.isArray(), "what was copied is JSON");

@@ -8,17 +8,33 @@
 
 #include <cstdlib>
 
-// Called once before the first input.
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
+extern "C" {
 
-extern "C" int LLVMFuzzerInitialize(int*, char*** argv)
+// The sanitizers ask for their options.
+const char* __lsan_default_options();
+const char* __ubsan_default_options();
+// Called once before the first input.
+int LLVMFuzzerInitialize(int* argc, char*** argv);
+
+const char* __lsan_default_options()
+{
+    return "suppressions=" LEAK_SUPPRESSIONS ":print_suppressions=0";
+}
+
+const char* __ubsan_default_options()
+{
+    return "print_stacktrace=1";
+}
+
+int LLVMFuzzerInitialize(int*, char***)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.warning=false"));
     QStandardPaths::setTestModeEnabled(true);
     // Not the engine's arguments, but a connection id that nobody serves.
-    static char id[] = "fuzzer";
-    static char* arguments[] = {*argv ? (*argv)[0] : id, id, nullptr};
+    static char name[] = "fuzzer";
+    static char id[] = "nobody";
+    static char* arguments[] = {name, id, nullptr};
     static int count = 2;
     static auto* application = new QApplication(count, arguments);
     Q_UNUSED(application)
@@ -26,3 +42,5 @@ extern "C" int LLVMFuzzerInitialize(int*, char*** argv)
     std::atexit(__lsan_do_leak_check);
     return 0;
 }
+
+} // extern "C"
