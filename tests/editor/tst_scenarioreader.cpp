@@ -80,6 +80,9 @@ void tst_ScenarioReader::errors_data()
     row("key at the end", "[{\n\"x\": 1}]", "No CR/NF found: [{\n\"x\": 1}]");
     row("value at the end", "[{\"comment\": \"a\"}]",
         "closeMarker(\",\r) not found (l:2985):  \"a\"}]");
+    QTest::newRow("behind a zero byte")
+        << QStringLiteral("[{\"a\": \"0\"\n},\n1 1\n]").replace(QLatin1Char('0'), QChar::Null)
+        << QStringLiteral("json is not array (step 1,");
 }
 
 void tst_ScenarioReader::errors()

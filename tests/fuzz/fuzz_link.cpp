@@ -11,18 +11,9 @@
 #include <QApplication>
 #include <QPointer>
 
-#include <string>
-
 namespace {
 
 constexpr int kLongestRead = 200;
-
-QByteArray nextRead(FuzzedDataProvider* input, int shortest)
-{
-    // The sizes are taken from the input's end, the bytes from its beginning.
-    const auto size = input->ConsumeIntegralInRange<std::size_t>(shortest, kLongestRead);
-    return QByteArray::fromStdString(input->ConsumeBytesAsString(size));
-}
 
 // Ends the manager, and deletes the windows that managers leave behind.
 void clean(TutorialManager* manager)
@@ -37,7 +28,7 @@ void clean(TutorialManager* manager)
     expect(QApplication::topLevelWidgets().isEmpty(), "no window is left");
 }
 
-// The reads that come out of the input, with whatever is in them.
+// Reads with whatever is in the input. Their sizes are taken from its end.
 void nonsense(FuzzedDataProvider input)
 {
     QPointer<TutorialManager> manager = new TutorialManager(qApp);
@@ -45,7 +36,8 @@ void nonsense(FuzzedDataProvider input)
         // Its tasks wait for the event loop, and end with it.
         TutorialEditor::HostMessages messages(manager);
         while (manager && input.remaining_bytes() > 0) {
-            manager->handleRead(nextRead(&input, 1));
+            const auto size = input.ConsumeIntegralInRange<std::size_t>(1, kLongestRead);
+            manager->handleRead(QByteArray::fromStdString(input.ConsumeBytesAsString(size)));
             QCoreApplication::sendPostedEvents(manager, QEvent::DeferredDelete);
         }
     }
