@@ -13,6 +13,8 @@ using namespace TutorialEditor;
 
 namespace {
 
+constexpr int kMostTexts = 6; // each is a level of nesting
+
 // What steps, and the steps in their groups, say about being written.
 struct Traits {
     // A text that is written bare is not one whole expression, so that no reader
@@ -42,40 +44,66 @@ struct Traits {
     }
 };
 
+// The texts as the author types them, plainly and in expressions, in nested steps.
+QJsonArray stepsOf(const QStringList& texts)
+{
+    QJsonArray steps;
+    for (const QString& text : texts) {
+        QString literal = text;
+        literal.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+        literal.replace(QLatin1Char('"'), QLatin1String("\\\""));
+        const QString literals = QStringLiteral("(\"%1\")").arg(literal);
+        const QString tr = QLatin1String("qsTr") + literals;
+        const QString noop = QLatin1String("QT_TRANSLATE_NOOP") + literals;
+        steps = {QJsonObject{{QStringLiteral("group"), steps}, {QStringLiteral("hint"), tr},
+                     {QStringLiteral("label"), text}},
+            QJsonObject{{QStringLiteral("comment"), noop}, {QStringLiteral("hint"), text},
+                {QStringLiteral("later"), QJsonArray{text}}},
+            QJsonObject{{QStringLiteral("comment"), text}, {QStringLiteral("hint"), noop}}};
+    }
+    return steps;
+}
+
+// The steps are read as they were written, or the author is told which is not;
+// and what was copied is pasted.
+void expectKept(const QJsonArray& steps)
+{
+    const QString json = scenarioJson(steps);
+    QStringList errors;
+    const QString file = textOf(scenarioFileText(json).toUtf8());
+    const bool isKept = scenarioJson(readScenario(file, &errors)) == json && errors.isEmpty();
+    Traits traits;
+    traits.look(steps);
+    expect(isKept || traits.hasHalfExpression, "what was written is read again");
+    expect(isKept == findUnreadable(json, steps).isEmpty(),
+        "exactly what cannot be read again is reported");
+
+    const QString copied = scenarioJson(steps, StepListForm::Copied);
+    const QJsonArray pasted = QJsonDocument::fromJson(copied.toUtf8()).array();
+    expect(scenarioJson(pasted) == json || traits.hasUnquotable, "what was copied is pasted");
+}
+
 } // namespace
 
-// What was read without an error is written and read again unchanged, or the
-// author is told which step cannot be.
+// The text of a file, or what the author types: texts separated by the byte 1.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QtParsesJson noLeaks;
-    QStringList errors;
-    const QString input = textOf(data, size);
-    const QJsonArray steps = readScenario(input, &errors);
-    if (!errors.isEmpty())
+    const QString text = textOf(data, size);
+    if (text.contains(QChar(1))) {
+        expectKept(stepsOf(text.split(QChar(1)).mid(0, kMostTexts)));
         return 0;
+    }
 
+    QStringList errors;
+    const QJsonArray steps = readScenario(text, &errors);
     const QString json = scenarioJson(steps);
     const bool hasSurrogates =
         std::any_of(json.begin(), json.end(), [](QChar c) { return c.isSurrogate(); });
     // Qt's parser orders keys with such characters by whether they were escaped,
     // and half a pair of surrogates, which must have been, cannot be in a file.
-    if (input.contains(QChar::Null) || (hasSurrogates && input.contains(QLatin1String("\\u"))))
-        return 0;
-
-    const QString file = textOf(scenarioFileText(json).toUtf8());
-    const bool isSame = scenarioJson(readScenario(file, &errors)) == json && errors.isEmpty();
-    Traits traits;
-    traits.look(steps);
-    expect(isSame || traits.hasHalfExpression, "what was read is written and read again unchanged");
-    expect(isSame == findUnreadable(json, steps).isEmpty(),
-        "exactly what cannot be read again is reported");
-
-    if (!traits.hasUnquotable) {
-        const QString copied = scenarioJson(steps, StepListForm::Copied);
-        const QJsonDocument pasted = QJsonDocument::fromJson(copied.toUtf8());
-        expect(pasted.isArray(), "what was copied is JSON");
-        expect(scenarioJson(pasted.array()).toUtf8() == json.toUtf8(), "what was copied is pasted");
-    }
+    if (errors.isEmpty() && !text.contains(QChar::Null)
+        && !(hasSurrogates && text.contains(QLatin1String("\\u"))))
+        expectKept(steps);
     return 0;
 }
