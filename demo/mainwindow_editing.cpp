@@ -3,6 +3,7 @@
 #include "demo/mainwindow.h"
 #include "demo/windowregistry.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -50,6 +51,9 @@ bool MainWindow::loadPreset(const QString& name)
     for (const char* choice : {"Map", "Pencil"})
         action(choice)->setChecked(true);
     mTileList->setCurrentRow(0);
+    // For each spin box and list of a dialog that is long gone Qt keeps what it
+    // found out about its parts, until a style sheet is set.
+    qApp->setStyleSheet(qApp->styleSheet());
     return true;
 }
 
