@@ -22,7 +22,6 @@ class tst_PacketReader : public QObject {
 private slots:
     void reads_data();
     void reads();
-    void everyCutOfAStreamGivesTheSameTexts();
     void tailIsBounded();
 };
 
@@ -79,33 +78,6 @@ void tst_PacketReader::reads()
         found += drained(&reader);
     }
     QCOMPARE(found, texts);
-}
-
-void tst_PacketReader::everyCutOfAStreamGivesTheSameTexts()
-{
-    const QByteArray stream = bytes("0\2alive\0"
-                                    "0\2a\2b\0"
-                                    "0\2\0"
-                                    "0\2stop\0");
-    const QStringList texts = {
-        QStringLiteral("alive"), QStringLiteral("a\2b"), QStringLiteral("stop")};
-    for (int first = 2; first < stream.size(); ++first) {
-        for (int second = first + 1; second < stream.size(); ++second) {
-            PacketReader reader;
-            QStringList found;
-            for (const QByteArray& read :
-                {stream.left(first), stream.mid(first, second - first), stream.mid(second)}) {
-                reader.append(read);
-                found += drained(&reader);
-            }
-            // A read of one byte with nothing kept before it is dropped.
-            const auto isLone = [&stream](int begin, int end) {
-                return end - begin == 1 && stream.at(begin - 1) == '\0';
-            };
-            if (!isLone(first, second) && !isLone(second, stream.size()))
-                QCOMPARE(found, texts);
-        }
-    }
 }
 
 void tst_PacketReader::tailIsBounded()
