@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 using namespace TutorialEditor;
 
@@ -12,6 +13,13 @@ namespace {
 
 constexpr int kRetryMs = 50;
 constexpr int kMaximumParameters = 3;
+// So many tasks are done before the link and the timers have their turn again.
+// It is more than one read of the link brings, so that a flood does not pile up.
+constexpr int kTasksAtATime = 500;
+// Characters of the messages that wait for the author, each with an allowance for
+// what keeps it: some 100,000 short ones.
+constexpr int kMostWaiting = 16 * 1024 * 1024;
+constexpr int kAllowance = 100;
 
 // The fields as numbers; empty when one is none.
 QList<int> numbersOf(const QStringList& fields)
@@ -41,8 +49,6 @@ bool isWaitingForAuthor()
 
 HostMessages::HostMessages(TutorialManager* manager)
 {
-    mNext.setSingleShot(true);
-    connect(&mNext, &QTimer::timeout, this, &HostMessages::runTasks);
     connect(manager, &TutorialManager::received, this, &HostMessages::receive);
 }
 
@@ -56,9 +62,18 @@ void HostMessages::receive(const QString& message)
         task = editorTask(fields.mid(1));
     if (!task)
         return;
-    mTasks.enqueue(task);
-    if (!mNext.isActive())
-        mNext.start(0);
+    if (mWaiting > kMostWaiting) {
+        if (!mIsFull)
+            qWarning("Too many messages wait for the author: those of the host are dropped.");
+        mIsFull = true;
+        return;
+    }
+    // A posted call and no timer: those may not get their turn while messages
+    // keep arriving.
+    if (mTasks.isEmpty())
+        QMetaObject::invokeMethod(this, &HostMessages::runTasks, Qt::QueuedConnection);
+    mTasks.enqueue({task, message.size() + kAllowance});
+    mWaiting += mTasks.last().size;
 }
 
 std::function<void()> HostMessages::editorTask(const QStringList& fields) const
@@ -83,12 +98,19 @@ void HostMessages::runTasks()
     if (mRunning)
         return;
     const QScopedValueRollback<bool> running(mRunning, true);
-    while (!mTasks.isEmpty()) {
+    for (int done = 0; !mTasks.isEmpty(); ++done) {
         // What a box's answer works on must not change below it.
         if (isWaitingForAuthor()) {
-            mNext.start(kRetryMs);
+            QTimer::singleShot(kRetryMs, this, &HostMessages::runTasks);
             return;
         }
-        mTasks.dequeue()();
+        if (done == kTasksAtATime) {
+            QMetaObject::invokeMethod(this, &HostMessages::runTasks, Qt::QueuedConnection);
+            return;
+        }
+        const Task task = mTasks.dequeue();
+        mWaiting -= task.size;
+        task.run();
     }
+    mIsFull = false;
 }

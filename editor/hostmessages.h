@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QQueue>
-#include <QTimer>
 
 #include <functional>
 
@@ -13,7 +12,8 @@ namespace TutorialEditor {
 // Hands those of the host's messages that open and feed the authoring tool to
 // its manager. What they ask for may wait for the author, so it is done one
 // after the other from the event loop, never inside of the link's read, and not
-// while a box or menu is open. A malformed message is dropped.
+// while a box or menu is open. A malformed message is dropped, and so is one that
+// comes when too many wait for the author.
 class HostMessages : public QObject {
     Q_OBJECT
 
@@ -26,9 +26,14 @@ private:
     std::function<void()> editorTask(const QStringList& fields) const;
     void runTasks();
 
-    QQueue<std::function<void()>> mTasks;
+    struct Task {
+        std::function<void()> run;
+        int size;
+    };
+    QQueue<Task> mTasks;
+    int mWaiting = 0; // sizes of mTasks
+    bool mIsFull = false;
     bool mRunning = false;
-    QTimer mNext;
 };
 
 } // namespace TutorialEditor

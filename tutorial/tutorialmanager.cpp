@@ -9,6 +9,9 @@
 namespace {
 
 constexpr int kTickMs = 100;
+// Bytes of one read. What a host floods the link with waits in the system, and
+// between two reads the timers have their turn.
+constexpr int kLargestRead = 4 * 1024;
 
 QString joined(const QStringList& fields)
 {
@@ -34,6 +37,7 @@ TutorialManager::TutorialManager(QApplication* application) : mApplication(appli
     }
 
     mSocket = new QLocalSocket(this);
+    mSocket->setReadBufferSize(kLargestRead);
     connect(mSocket, SIGNAL(readyRead()), this, SLOT(onReadyRead()));
     connect(mSocket, SIGNAL(connected()), this, SLOT(onConnected()));
     connect(this, &TutorialManager::received, this, &TutorialManager::onReceived);

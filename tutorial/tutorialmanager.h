@@ -38,7 +38,8 @@ public:
     // Ends the link, closes the overlay windows and deletes this later.
     void close();
 
-    // The link. A message that is sent before the connection stands is dropped.
+    // The link. A message that is sent before the connection stands is dropped, and
+    // so is one that comes when the host has left too much unread.
     void send(const QString& message) override;
     // Handles the bytes of one read, and counts as a sign of life whatever they
     // are. A packet that the read cuts in two is handled with the next one.
@@ -156,5 +157,6 @@ private:
     int mSilenceTicks = 0;
     int mAliveTicks = 0;
     bool mConnected = false;
+    bool mHostIsBehind = false; // has left too much unread
     QRect mHostRect;
 };

@@ -16,6 +16,9 @@ constexpr char kMessageSeparator = 0x02;
 constexpr QChar kFieldSeparator = QChar(0x01);
 constexpr int kSilentTicks = 300; // about 30 seconds
 constexpr int kAliveTicks = 10;
+// Bytes that wait for the host to read them; whole messages above that are lost.
+// A scenario whose hints fill them would hold a million steps.
+constexpr qint64 kMostUnread = 64 * 1024 * 1024;
 
 const QString kBye = QStringLiteral("bye");
 
@@ -36,6 +39,12 @@ int saturated(qint64 value)
 void TutorialManager::send(const QString& message)
 {
     if (!mSocket || !mConnected)
+        return;
+    const bool isBehind = mSocket->bytesToWrite() > kMostUnread;
+    if (isBehind && !mHostIsBehind)
+        qWarning("The host does not read: what is sent to it is dropped.");
+    mHostIsBehind = isBehind;
+    if (isBehind)
         return;
     QByteArray packet;
     packet += kOwnTag;

@@ -35,6 +35,7 @@ private slots:
     void dropsMalformedMessages();
     void opensOneAfterTheOther();
     void nothingChangesUnderAQuestion();
+    void tooManyWaitForTheAuthor();
     void byeEndsAnOpenQuestion();
 
 private:
@@ -152,6 +153,26 @@ void tst_HostMessages::nothingChangesUnderAQuestion()
     scenario.widget<QPushButton>("save")->click();
     QCOMPARE(scenario.fileText(), scenarioText("b"_s));
     QTRY_COMPARE(scenario.dialog()->windowTitle(), "second"_s);
+}
+
+void tst_HostMessages::tooManyWaitForTheAuthor()
+{
+    OpenScenario scenario(scenarioText("a b"_s));
+    scenario.select({0});
+    scenario.hint()->setPlainText("c"_s);
+    QSignalSpy received(mManager, &TutorialManager::received);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("wait for the author"_s));
+    ModalBoxes boxes(QMessageBox::Yes, [&](QMessageBox*) {
+        send({"untr"_s, "hint0"_s, "A"_s});
+        for (int i = 0; i < 20; ++i)
+            send({"untr"_s, "other"_s, QString(1024 * 1024, QLatin1Char('x'))});
+        send({"untr"_s, "hint1"_s, "lost"_s});
+        QTRY_COMPARE(received.size(), 22);
+    });
+    scenario.widget<QPushButton>("save")->click();
+    QTRY_COMPARE(scenario.rows(), "A|b|<>"_s);
+    send({"untr"_s, "hint1"_s, "B"_s});
+    QTRY_COMPARE(scenario.rows(), "A|B|<>"_s);
 }
 
 void tst_HostMessages::byeEndsAnOpenQuestion()

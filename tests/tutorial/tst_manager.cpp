@@ -72,6 +72,7 @@ private slots:
 
     void aMessageIsSentOnceConnected();
     void anotherUsersServer();
+    void aHostThatDoesNotRead();
     void nothingIsHandledBehindBye();
     void aBurstIsHandledWhole();
     void messagesBeforeStartAreIgnored();
@@ -168,6 +169,23 @@ void tst_Manager::anotherUsersServer()
     QTRY_COMPARE(ended.size(), 1);
     QVERIFY(windows<TutorialTooltip>().isEmpty());
     QCOMPARE(host->readAll(), QByteArray());
+}
+
+// What is kept for it has a limit, and what is kept arrives whole.
+void tst_Manager::aHostThatDoesNotRead()
+{
+    const QString text(1024 * 1024, QLatin1Char('x'));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("host does not read")));
+    for (int i = 0; i < 80; ++i)
+        mManager->send(text);
+    const QByteArray packet = "1\2" + text.toLatin1() + '\0';
+    QTRY_VERIFY(sHost->receivedWithoutAlive().size() >= 64 * packet.size());
+    mManager->send(QStringLiteral("next"));
+    QTRY_VERIFY(sHost->receivedBytes().endsWith(bytes("1\2next\0")));
+    const QByteArray received = sHost->receivedWithoutAlive();
+    const int kept = received.size() / packet.size();
+    QVERIFY(kept < 80);
+    QVERIFY(received == packet.repeated(kept) + bytes("1\2next\0"));
 }
 
 void tst_Manager::nothingIsHandledBehindBye()
