@@ -1,4 +1,5 @@
 #include "bench/report.h"
+#include "bench/samplesteps.h"
 #include "editor/dialog.h"
 #include "editor/model.h"
 #include "editor/recoverycopy.h"
@@ -39,24 +40,6 @@ namespace {
 constexpr int kRuns = 7;
 constexpr int kSteps = 10000;
 constexpr int kManySteps = 100000;
-
-QJsonObject step(int i)
-{
-    return {{QStringLiteral("x"), i % 1920}, {QStringLiteral("y"), i % 1080},
-        {QStringLiteral("followWindow"), QStringLiteral("MainWindow")},
-        {QStringLiteral("comment"), QStringLiteral("step number %1").arg(i)},
-        {QStringLiteral("hint"), QStringLiteral("qsTr(\"Press the <b>button</b> no. %1\")").arg(i)},
-        {QStringLiteral("condition"), QStringLiteral("click,")},
-        {QStringLiteral("icon"), QStringLiteral("click")}};
-}
-
-QJsonArray steps(int count)
-{
-    QJsonArray array;
-    for (int i = 0; i < count; ++i)
-        array.append(step(i));
-    return array;
-}
 
 QJsonArray groupOf(const QJsonArray& contents)
 {

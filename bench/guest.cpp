@@ -36,6 +36,8 @@ Guest::~Guest()
     send({QStringLiteral("bye")});
     if (!mProcess.waitForFinished(kDeadlineMs))
         qFatal("%s did not end", qUtf8Printable(mProcess.program()));
+    if (mProcess.exitStatus() != QProcess::NormalExit || mProcess.exitCode() != 0)
+        qFatal("%s failed", qUtf8Printable(mProcess.program()));
 }
 
 double Guest::processorMs() const
@@ -49,18 +51,57 @@ double Guest::processorMs() const
 
 double Guest::peakMiB() const
 {
-    QFile status(QStringLiteral("/proc/%1/status").arg(mProcess.processId()));
-    if (!status.open(QIODevice::ReadOnly))
-        qFatal("%s has ended", qUtf8Printable(mProcess.program()));
-    static const QRegularExpression peak(QStringLiteral("VmHWM:\\s*(\\d+) kB"));
-    return peak.match(QString::fromLatin1(status.readAll())).captured(1).toDouble() / 1024;
+    return kiBOf("status", "VmHWM") / 1024;
+}
+
+double Guest::memoryMiB() const
+{
+    return kiBOf("smaps_rollup", "Anonymous") / 1024;
+}
+
+QByteArray Guest::packet(const QStringList& messages)
+{
+    return "0\x02" + messages.join(QChar(0x02)).toUtf8().replace('|', '\x01') + '\0';
 }
 
 void Guest::send(const QStringList& messages)
 {
-    for (const QString& message : messages) {
-        QByteArray packet = "0\x02" + message.toUtf8() + '\0';
-        mSocket->write(packet.replace('|', '\x01'));
+    QByteArray packets;
+    for (const QString& message : messages)
+        packets += packet({message});
+    write(packets);
+    while (!flush(kDeadlineMs)) { }
+}
+
+void Guest::write(const QByteArray& bytes)
+{
+    mSocket->write(bytes);
+}
+
+bool Guest::flush(int timeoutMs)
+{
+    return mSocket->bytesToWrite() == 0
+        || (mSocket->waitForBytesWritten(timeoutMs) && mSocket->bytesToWrite() == 0);
+}
+
+QByteArray Guest::receive(int timeoutMs)
+{
+    if (mSocket->bytesAvailable() == 0 && !mSocket->waitForReadyRead(timeoutMs)
+        && mSocket->state() != QLocalSocket::ConnectedState) {
+        mProcess.waitForFinished(1000);
+        qFatal("%s has ended %d %d", qUtf8Printable(mProcess.program()), mProcess.exitStatus(),
+            mProcess.exitCode());
     }
-    mSocket->flush();
+    return mSocket->readAll();
+}
+
+// An entry of a file in /proc.
+double Guest::kiBOf(const char* file, const char* entry) const
+{
+    QFile status(QStringLiteral("/proc/%1/%2").arg(mProcess.processId()).arg(QLatin1String(file)));
+    if (!status.open(QIODevice::ReadOnly))
+        qFatal("%s has ended", qUtf8Printable(mProcess.program()));
+    const QRegularExpression line(QStringLiteral("^%1:\\s*(\\d+) kB").arg(QLatin1String(entry)),
+        QRegularExpression::MultilineOption);
+    return line.match(QString::fromLatin1(status.readAll())).captured(1).toDouble();
 }

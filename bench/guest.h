@@ -19,11 +19,23 @@ public:
     double processorMs() const;
     // The most memory that it held at a time, in MiB.
     double peakMiB() const;
+    // The memory that it holds now, in MiB; of what it shares with others its part.
+    double memoryMiB() const;
 
-    // Writes each message, its fields separated by '|', in a packet of its own.
+    // A packet of messages, the fields of each separated by '|'.
+    static QByteArray packet(const QStringList& messages);
+    // Writes each message in a packet of its own.
     void send(const QStringList& messages);
+    // Begins to write bytes.
+    void write(const QByteArray& bytes);
+    // Waits so long for the next of them to leave. Returns whether all have left.
+    bool flush(int timeoutMs);
+    // What has arrived; when that is nothing, waits so long for something.
+    QByteArray receive(int timeoutMs);
 
 private:
+    double kiBOf(const char* file, const char* entry) const;
+
     QLocalServer mServer;
     QProcess mProcess;
     QLocalSocket* mSocket = nullptr;
