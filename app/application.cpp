@@ -11,6 +11,18 @@
 
 namespace {
 
+// The display platform that has to be asked for, because overlay windows place
+// themselves in screen coordinates and Wayland does not let them: "xcb" on a
+// Wayland session that offers an X server, otherwise nothing.
+// requested: QT_QPA_PLATFORM; sessionType: XDG_SESSION_TYPE; waylandDisplay,
+// xDisplay: WAYLAND_DISPLAY and DISPLAY. A platform that was requested stays.
+QByteArray platformToAskFor(const QByteArray& requested, const QByteArray& sessionType,
+    const QByteArray& waylandDisplay, const QByteArray& xDisplay)
+{
+    const bool wayland = sessionType == "wayland" || !waylandDisplay.isEmpty();
+    return requested.isEmpty() && wayland && !xDisplay.isEmpty() ? QByteArray("xcb") : QByteArray();
+}
+
 // The manager closes its windows and forgets them; here they are released.
 void deleteWindows()
 {
@@ -24,13 +36,6 @@ void deleteWindows()
 }
 
 } // namespace
-
-QByteArray platformToAskFor(const QByteArray& requested, const QByteArray& sessionType,
-    const QByteArray& waylandDisplay, const QByteArray& xDisplay)
-{
-    const bool wayland = sessionType == "wayland" || !waylandDisplay.isEmpty();
-    return requested.isEmpty() && wayland && !xDisplay.isEmpty() ? QByteArray("xcb") : QByteArray();
-}
 
 int runApplication(int argc, char** argv)
 {

@@ -1,4 +1,5 @@
 #include "tests/support/testhost.h"
+#include "tests/support/xdotool.h"
 #include "tutorial/vocabulary.h"
 
 #include <QApplication>
@@ -54,11 +55,6 @@ QStringList update(const QString& hint, int flags, int icon)
         QString::number(icon)};
 }
 
-int runXdotool(const QStringList& arguments)
-{
-    return QProcess::execute(QStringLiteral("xdotool"), arguments);
-}
-
 } // namespace
 
 // The real program above this window, which plays the host, under a window
@@ -75,9 +71,7 @@ private slots:
     void iconChangesOnBothSides_data();
     void iconChangesOnBothSides();
     void typingIsNotInterrupted();
-    void buttonsAnswer();
     void overlayStaysAboveWindowsThatOpenLater();
-    void hostHidesAndShows();
     void nothingStaysOnTheScreen_data();
     void nothingStaysOnTheScreen();
 
@@ -228,30 +222,6 @@ void tst_OverlayOnScreen::typingIsNotInterrupted()
     QCOMPARE(activationChanges, 0);
 }
 
-void tst_OverlayOnScreen::buttonsAnswer()
-{
-    const QPoint target(300, 200);
-    const auto click = [&](int offset, const char* answer) {
-        // Buttons stand below the text, whose height only the program knows:
-        // the pointer looks for them from the text box downwards.
-        mHost->reset();
-        const QByteArray packet = QByteArray("1\2") + answer + '\0';
-        for (int y = 80; y < 180 && mHost->receivedWithoutAlive().isEmpty(); y += 20) {
-            runXdotool({QStringLiteral("mousemove"), QString::number(target.x() + 76 + offset),
-                QString::number(target.y() + y), QStringLiteral("click"), QStringLiteral("1")});
-            QTest::qWait(200);
-        }
-        QCOMPARE(mHost->receivedWithoutAlive(), packet);
-    };
-    mHost->send({update(QStringLiteral("Go on"), Tutorial::ShowNextFlag, 0), updateXy(target)});
-    QTest::qWait(3000);
-    click(20, "next");
-    mHost->send({update(QStringLiteral("Shall we?"), Tutorial::ShowYesNoFlag, 0)});
-    QTest::qWait(500);
-    click(20, "yes");
-    click(90, "no");
-}
-
 void tst_OverlayOnScreen::overlayStaysAboveWindowsThatOpenLater()
 {
     const QPoint point(400, 400);
@@ -278,17 +248,6 @@ void tst_OverlayOnScreen::overlayStaysAboveWindowsThatOpenLater()
     QTRY_VERIFY_WITH_TIMEOUT(!painted(screenshot(), strip).isEmpty(), kDeadlineMs);
 }
 
-void tst_OverlayOnScreen::hostHidesAndShows()
-{
-    QVERIFY(waitForOverlay(true));
-    mHost->send({{QStringLiteral("state"), QStringLiteral("hide")}});
-    QVERIFY(waitForOverlay(false));
-    mHost->send({{QStringLiteral("state"), QStringLiteral("show")}});
-    QVERIFY(waitForOverlay(true));
-    mHost->send({{QStringLiteral("stop")}});
-    QVERIFY(waitForOverlay(false));
-}
-
 void tst_OverlayOnScreen::nothingStaysOnTheScreen_data()
 {
     QTest::addColumn<int>("signalNumber"); // 0 for "bye"
@@ -310,7 +269,7 @@ void tst_OverlayOnScreen::nothingStaysOnTheScreen()
     QTemporaryDir folder;
     const QString id = QString::number(mHost->process().processId());
     const auto hasWindows = [&id] {
-        return runXdotool({QStringLiteral("search"), QStringLiteral("--pid"), id}) == 0;
+        return !xdotool({QStringLiteral("search"), QStringLiteral("--pid"), id}).isEmpty();
     };
     mHost->send({update(QStringLiteral("Go on"), Tutorial::ShowNextFlag, 0)});
     if (asksAuthor) {
@@ -322,11 +281,7 @@ void tst_OverlayOnScreen::nothingStaysOnTheScreen()
         };
         const QStringList open = editor("open") << scenario;
         mHost->send({open, editor("focus 0 0"), editor("coordinates 7 7"), open});
-        QTRY_VERIFY_WITH_TIMEOUT(
-            runXdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                QStringLiteral("--name"), QStringLiteral("^Save$")})
-                == 0,
-            kDeadlineMs);
+        QVERIFY(waitForWindow(QStringLiteral("^Save$")));
     }
     QVERIFY(waitForOverlay(true));
     QTRY_VERIFY_WITH_TIMEOUT(hasWindows(), kDeadlineMs);

@@ -1,4 +1,3 @@
-#include "demo/hostlink.h"
 #include "demo/mainwindow.h"
 #include "demo/windowregistry.h"
 
@@ -7,8 +6,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QtTest>
-
-#include <csignal>
 
 using namespace Tutorial;
 
@@ -21,7 +18,6 @@ class tst_DemoHost : public QObject {
 private slots:
     void asksBeforeItOverwrites_data();
     void asksBeforeItOverwrites();
-    void aCrashIsReportedOnceAndRecovered();
 };
 
 void tst_DemoHost::asksBeforeItOverwrites_data()
@@ -67,22 +63,6 @@ void tst_DemoHost::asksBeforeItOverwrites()
     if (!requests.isEmpty())
         QCOMPARE(requests.first().first().toString(), file.fileName());
     dialog->close();
-}
-
-void tst_DemoHost::aCrashIsReportedOnceAndRecovered()
-{
-    HostLink link(QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial"));
-    QSignalSpy connected(&link, &HostLink::connected);
-    QSignalSpy failed(&link, &HostLink::failed);
-    link.open();
-    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, 20000);
-    kill(pid_t(link.processId()), SIGKILL);
-    QTRY_COMPARE(failed.size(), 1);
-    QVERIFY(!link.isConnected());
-
-    link.open();
-    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 2, 20000);
-    QCOMPARE(failed.size(), 1);
 }
 
 QTEST_MAIN(tst_DemoHost)

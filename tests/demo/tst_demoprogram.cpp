@@ -1,3 +1,5 @@
+#include "tests/support/xdotool.h"
+
 #include <QProcess>
 #include <QtTest>
 
@@ -72,10 +74,9 @@ void tst_DemoProgram::autoplayTellsWhereItIsStuck()
 void tst_DemoProgram::signalEndsItsTutorialToo()
 {
     const auto hasTutorial = [] {
-        return QProcess::execute(QStringLiteral("xdotool"),
-                   {QStringLiteral("search"), QStringLiteral("--classname"),
-                       QStringLiteral("^tutorial$")})
-            == 0;
+        return !xdotool(
+            {QStringLiteral("search"), QStringLiteral("--classname"), QStringLiteral("^tutorial$")})
+                    .isEmpty();
     };
     QProcess program;
     program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial-demo"),

@@ -28,7 +28,6 @@ class tst_DemoScenarios : public QObject {
 private slots:
     void firstSteps() { isSound(QStringLiteral("first-steps")); }
     void allConditions() { isSound(QStringLiteral("all-conditions")); }
-    void everyConditionAndIcon();
 
 private:
     static void isSound(const QString& name);
@@ -55,20 +54,6 @@ void tst_DemoScenarios::isSound(const QString& name)
         QCoreApplication::removeTranslator(&german);
         QVERIFY2(!english.isEmpty() && english != step.hint && translated != english, where);
     }
-}
-
-void tst_DemoScenarios::everyConditionAndIcon()
-{
-    QSet<int> conditions;
-    QSet<int> icons;
-    const Scenario scenario =
-        Scenario::fromJson(readJson(QStringLiteral(":/scenarios/all-conditions.js")));
-    for (const Step& step : scenario.steps) {
-        conditions << step.condition.kind;
-        icons << step.icon;
-    }
-    QCOMPARE(conditions.size(), int(ConditionKindCount));
-    QCOMPARE(icons.size(), int(IconKindCount));
 }
 
 QTEST_GUILESS_MAIN(tst_DemoScenarios)

@@ -13,7 +13,6 @@ class tst_ScenarioPlayer : public QObject {
 
 private slots:
     void init();
-    void stepsAndGroupsInOrder();
     void branches();
     void waitsForTheWindow();
     void goesBackWhenTheWindowIsGone();
@@ -68,25 +67,6 @@ bool tst_ScenarioPlayer::did(const char* text)
         qWarning() << "expected" << expected << "but it did" << mDone;
     mDone.clear();
     return same;
-}
-
-void tst_ScenarioPlayer::stepsAndGroupsInOrder()
-{
-    play(R"([{"condition": "click,", "command": "presetData,meadow"},
-             {"hint": "outer", "group": [{"condition": "click"}, {"hint": "empty", "group": []},
-                 {"hint": "inner", "group": [{"condition": "click"}]}]},
-             {"condition": "click"}])");
-    QVERIFY(did("data meadow; [0]"));
-    answer("next");
-    QVERIFY(did("[1,0]"));
-    answer("yes");
-    answer("next");
-    QVERIFY(did("[1,2,0]"));
-    answer("next");
-    QVERIFY(did("[2]"));
-    answer("next");
-    QVERIFY(did("end"));
-    QVERIFY(!mPlayer->isPlaying());
 }
 
 void tst_ScenarioPlayer::branches()

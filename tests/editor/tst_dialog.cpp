@@ -47,7 +47,6 @@ private slots:
 
     void formLetsGoOfItems();
     void keepsTheFormerFile();
-    void failedSaveLosesNothing();
     void escapeAsks();
 };
 
@@ -166,21 +165,6 @@ void tst_Dialog::keepsTheFormerFile()
         QVERIFY(kept.open(QIODevice::ReadOnly));
         QCOMPARE(QString::fromUtf8(kept.readAll()), before);
     }
-}
-
-void tst_Dialog::failedSaveLosesNothing()
-{
-    OpenScenario scenario(scenarioText(QStringLiteral("a")));
-    scenario.select({0});
-    scenario.widget<QTextEdit>("hint")->setPlainText(QStringLiteral("b"));
-    // A folder that is gone.
-    QVERIFY(QDir(QFileInfo(scenario.path()).path()).removeRecursively());
-    ModalBoxes boxes(QList<ModalBoxes::Answer>{
-        {QMessageBox::Yes, nullptr}, {QMessageBox::Ok, nullptr}, {QMessageBox::Cancel, nullptr}});
-    QTest::keyClick(scenario.dialog(), Qt::Key_Escape);
-    QVERIFY(scenario.dialog()->isVisible());
-    QVERIFY(!Manager::mInstance->checkSave(true));
-    QVERIFY(boxes.isDone());
 }
 
 void tst_Dialog::escapeAsks()

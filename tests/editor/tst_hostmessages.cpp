@@ -34,7 +34,6 @@ private slots:
     void dropsMalformedMessages_data();
     void dropsMalformedMessages();
     void opensOneAfterTheOther();
-    void nothingChangesUnderAQuestion();
     void tooManyWaitForTheAuthor();
     void byeEndsAnOpenQuestion();
 
@@ -133,26 +132,6 @@ void tst_HostMessages::opensOneAfterTheOther()
     QVERIFY2(boxes.isDone(), qPrintable(boxes.seen().join(QLatin1Char(10))));
     QCOMPARE(scenario.rows(), "a|<>"_s);
     QCOMPARE(scenario.fileText(), scenarioText("b"_s));
-}
-
-// The answer to the dialog's own question saves what was asked about.
-void tst_HostMessages::nothingChangesUnderAQuestion()
-{
-    OpenScenario scenario(scenarioText("a"_s));
-    QTemporaryDir folder;
-    const QString second = folder.filePath("second.js"_s);
-    QVERIFY(QFile::copy(scenario.path(), second));
-    scenario.select({0});
-    scenario.hint()->setPlainText("b"_s);
-    ModalBoxes boxes(QMessageBox::Yes, [&](QMessageBox*) {
-        send({"editor"_s, "open"_s, second});
-        send({"editor"_s, "coordinates"_s, "1"_s, "2"_s});
-        QTest::qWait(200);
-        QCOMPARE(scenario.dialog()->windowTitle(), "scenario"_s);
-    });
-    scenario.widget<QPushButton>("save")->click();
-    QCOMPARE(scenario.fileText(), scenarioText("b"_s));
-    QTRY_COMPARE(scenario.dialog()->windowTitle(), "second"_s);
 }
 
 void tst_HostMessages::tooManyWaitForTheAuthor()

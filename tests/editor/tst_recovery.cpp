@@ -59,7 +59,6 @@ private slots:
     void copyIsThereWhileNeeded();
     void editorsKeepTheirOwnCopies();
     void nothingIsLostWithoutSpace();
-    void noCopyIsNoInterruption();
 };
 
 void tst_Recovery::changesComeBack_data()
@@ -171,24 +170,6 @@ void tst_Recovery::nothingIsLostWithoutSpace()
     scenario.widget<QPushButton>("save")->click();
     QVERIFY(scenario.dialog()->isSaved());
     QVERIFY(scenario.fileText() != before);
-}
-
-void tst_Recovery::noCopyIsNoInterruption()
-{
-    // No folder can be made where a file is, whoever tries.
-    QFile file(RecoveryCopy::folder());
-    QVERIFY(QDir().mkpath(QFileInfo(file).path()));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    OpenScenario scenario(scenarioText("a"_s));
-    scenario.select({0});
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Unsaved changes cannot be copied"_s));
-    scenario.hint()->setPlainText("b"_s);
-    Manager::mInstance->keepUnsaved();
-    QVERIFY(!QApplication::activeModalWidget());
-    ModalBoxes boxes(QMessageBox::Yes);
-    scenario.widget<QPushButton>("save")->click();
-    QVERIFY(scenario.dialog()->isSaved());
-    QVERIFY(file.remove());
 }
 
 QTEST_MAIN(tst_Recovery)

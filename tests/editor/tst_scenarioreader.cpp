@@ -18,7 +18,6 @@ private slots:
     void script();
     void errors_data();
     void errors();
-    void everyCutEnds();
     void files();
 };
 
@@ -95,26 +94,6 @@ void tst_ScenarioReader::errors()
     const bool isOnly = beginning.startsWith(QLatin1String("json"));
     QCOMPARE(errors.size(), isOnly ? 1 : 2);
     QVERIFY(isOnly || errors.last() == QLatin1String("json is not array"));
-}
-
-void tst_ScenarioReader::everyCutEnds()
-{
-    const QString file = QStringLiteral(
-        "// head\nvar scenario = [\n{\n\"comment\": \"a /* b */ // c ]; \\\"d\\\"\",\n"
-        "\"hint\": qsTr(\"a \\\"b\\\"\"),\n\"x\": 10\n}, /* two\n lines */\n\n \t\n{\n"
-        "\"hint\": QT_TRANSLATE_NOOP(\"Go\"),\n\"group\": [\n{\n\"hint\": "
-        "qsTr(\"c\")\n}\n]\n}\n];");
-    QStringList errors;
-    QCOMPARE(readScenario(file, &errors).size(), 2);
-    QCOMPARE(errors, QStringList());
-    for (const char* lineEnd : {"\n", "\r\n"}) {
-        const QString text = QString(file).replace(QLatin1Char('\n'), QLatin1String(lineEnd));
-        for (int size = 0; size + 2 < text.size(); ++size) {
-            errors.clear();
-            readScenario(text.left(size), &errors);
-            QVERIFY(!errors.isEmpty());
-        }
-    }
 }
 
 void tst_ScenarioReader::files()

@@ -21,8 +21,6 @@ private slots:
     void glide();
     void sides_data();
     void sides();
-    void bounce_data();
-    void bounce();
 };
 
 void tst_Motion::glide_data()
@@ -102,24 +100,6 @@ void tst_Motion::sides()
     QCOMPARE(motion.updateSides(kArrowWidth, kAreaRight), up != wasUp || left != wasLeft);
     QCOMPARE(motion.flippedVertically, up);
     QCOMPARE(motion.flippedHorizontally, left);
-}
-
-void tst_Motion::bounce_data()
-{
-    QTest::addColumn<float>("elapsedMs");
-    QTest::addColumn<float>("offset");
-    QTest::newRow("start") << 0.0f << 16.0f;
-    QTest::newRow("rest") << 500.0f << 16.0f;
-    QTest::newRow("lowest") << 1500.0f << 0.0f;
-    QTest::newRow("on the way") << 1166.6667f << 8.0f;
-    QTest::newRow("next period") << 3500.0f << 0.0f;
-}
-
-void tst_Motion::bounce()
-{
-    QFETCH(float, elapsedMs);
-    QFETCH(float, offset);
-    QVERIFY(qAbs(bounceOffset(elapsedMs) - offset) < 0.001f);
 }
 
 QTEST_APPLESS_MAIN(tst_Motion)

@@ -17,29 +17,10 @@
 
 using namespace Tutorial;
 
-// The class names that a host's windows have at run time.
-class Options_QMLTYPE_12 : public QObject {
-    Q_OBJECT
-};
-class Dialog_Options_QMLTYPE_7 : public QObject {
-    Q_OBJECT
-};
-class OptionsBox_QMLTYPE_3 : public QObject {
-    Q_OBJECT
-};
-class Options : public QObject {
-    Q_OBJECT
-};
-
 namespace {
 
 // The manager takes its connection id from the application's arguments.
 char* arguments[3] = {};
-
-QString message(const QStringList& fields)
-{
-    return fields.join(QChar(0x01));
-}
 
 QStringList fields(const char* text)
 {
@@ -73,8 +54,6 @@ private slots:
     void aMessageIsSentOnceConnected();
     void anotherUsersServer();
     void aHostThatDoesNotRead();
-    void nothingIsHandledBehindBye();
-    void aBurstIsHandledWhole();
     void messagesBeforeStartAreIgnored();
     void startStopStart();
     void hostRect();
@@ -83,7 +62,6 @@ private slots:
     void shortMessagesChangeNothing();
     void target();
     void hiddenByTheHost();
-    void windowKindOfAnObject();
 
 private:
     void receive(const QStringList& message);
@@ -186,37 +164,6 @@ void tst_Manager::aHostThatDoesNotRead()
     const int kept = received.size() / packet.size();
     QVERIFY(kept < 80);
     QVERIFY(received == packet.repeated(kept) + bytes("1\2next\0"));
-}
-
-void tst_Manager::nothingIsHandledBehindBye()
-{
-    QSignalSpy received(mManager, &TutorialManager::received);
-    QSignalSpy ended(mManager, &QObject::destroyed);
-    receive({QStringLiteral("start")});
-    QCOMPARE(received.size(), 1);
-    sHost->sendBytes(bytes("0\2alive\2bye\2alive\0"
-                           "0\2alive\0"));
-    QTRY_COMPARE(ended.size(), 1);
-    QCOMPARE(received.size(), 2);
-    mManager = new TutorialManager(qApp);
-    QTRY_COMPARE(sHost->connections(), 2);
-}
-
-void tst_Manager::aBurstIsHandledWhole()
-{
-    constexpr int kCount = 200000;
-    int next = 0;
-    bool inOrder = true;
-    connect(mManager, &TutorialManager::received, this, [&](const QString& text) {
-        inOrder = inOrder && text == message({QStringLiteral("n"), QString::number(next)});
-        ++next;
-    });
-    QByteArray burst;
-    for (int i = 0; i < kCount; ++i)
-        burst += TestHost::packet({{QStringLiteral("n"), QString::number(i)}});
-    sHost->sendBytes(burst);
-    QTRY_COMPARE_WITH_TIMEOUT(next, kCount, 60000);
-    QVERIFY(inOrder);
 }
 
 void tst_Manager::messagesBeforeStartAreIgnored()
@@ -364,22 +311,6 @@ void tst_Manager::hiddenByTheHost()
     QVERIFY(!windows<TutorialTooltip>().first()->isVisible());
     receive(fields("state show"));
     QVERIFY(windows<TutorialLog>().first()->isVisible());
-}
-
-void tst_Manager::windowKindOfAnObject()
-{
-    Options_QMLTYPE_12 options;
-    Dialog_Options_QMLTYPE_7 dialog;
-    OptionsBox_QMLTYPE_3 box;
-    Options bare;
-    QCOMPARE(mManager->getWindowKind(&options), Window_Options);
-    QCOMPARE(mManager->getWindowKind(&dialog), Window_Options);
-    QCOMPARE(mManager->getWindowKind(&box), WindowKindCount);
-    QCOMPARE(mManager->getWindowKind(&bare), WindowKindCount);
-    QCOMPARE(mManager->getWindowKind(static_cast<QObject*>(nullptr)), WindowKindCount);
-    mManager->setXy(Window_Options, 3, 4);
-    QCOMPARE(mManager->getXy(&dialog), QPoint(3, 4));
-    QCOMPARE(mManager->getXy(&bare), QPoint());
 }
 
 int main(int argc, char** argv)
