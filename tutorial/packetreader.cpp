@@ -10,21 +10,21 @@ constexpr int kShortestRead = 2;
 
 } // namespace
 
-void PacketReader::append(const QByteArray& data)
+void PacketReader::append(const QByteArray& data, bool continues)
 {
     if (mSkipping) {
         const int end = data.indexOf('\0');
         if (end < 0)
             return;
         mSkipping = false;
-        append(data.mid(end + 1));
+        append(data.mid(end + 1), continues);
         return;
     }
     if (!mBuffer.isEmpty()) {
         mBuffer.append(data);
         return;
     }
-    if (data.size() < kShortestRead)
+    if (data.size() < kShortestRead && !continues)
         return;
     mBuffer = data;
 }

@@ -14,8 +14,8 @@ public:
     static constexpr int kLongestTail = 16 * 1024 * 1024;
 
     // Takes the bytes of one read. A single byte is dropped when no tail waits
-    // for it.
-    void append(const QByteArray& data);
+    // for it, unless it `continues` the bytes that were taken before.
+    void append(const QByteArray& data, bool continues = false);
 
     // Moves on to the next complete packet that has a text, and stores the text
     // in *text. Returns false when the bytes are used up: what does not begin

@@ -43,7 +43,8 @@ public:
     void send(const QString& message) override;
     // Handles the bytes of one read, and counts as a sign of life whatever they
     // are. A packet that the read cuts in two is handled with the next one.
-    void handleRead(const QByteArray& data);
+    // continues: whether more than these bytes arrived at once.
+    void handleRead(const QByteArray& data, bool continues = false);
     // Puts a backslash before each double quote and each backslash.
     static QString getEscapedString(const QString& text);
     // Takes such a text back to what it was.
@@ -150,6 +151,7 @@ private:
     int mStateValue = kUnknownWindowState;
     QLocalSocket* mSocket = nullptr;
     PacketReader mPackets;
+    bool mReadWasFull = false; // the last one
     bool mHiddenByHost = false;
     bool mRunning = false;
     bool mApplicationActive = false;

@@ -85,13 +85,16 @@ void TutorialManager::onConnected()
 
 void TutorialManager::onReadyRead()
 {
-    handleRead(mSocket->readAll());
+    const QByteArray data = mSocket->readAll();
+    const bool continues = mReadWasFull;
+    mReadWasFull = data.size() >= mSocket->readBufferSize();
+    handleRead(data, continues);
 }
 
-void TutorialManager::handleRead(const QByteArray& data)
+void TutorialManager::handleRead(const QByteArray& data, bool continues)
 {
     mSilenceTicks = 0;
-    mPackets.append(data);
+    mPackets.append(data, continues);
     QString text;
     while (mPackets.next(&text)) {
         const QVector<QStringRef> messages = text.splitRef(QLatin1Char(kMessageSeparator));

@@ -54,6 +54,7 @@ private slots:
     void aMessageIsSentOnceConnected();
     void anotherUsersServer();
     void aHostThatDoesNotRead();
+    void aReadThatEndsBehindATag();
     void messagesBeforeStartAreIgnored();
     void startStopStart();
     void hostRect();
@@ -164,6 +165,17 @@ void tst_Manager::aHostThatDoesNotRead()
     const int kept = received.size() / packet.size();
     QVERIFY(kept < 80);
     QVERIFY(received == packet.repeated(kept) + bytes("1\2next\0"));
+}
+
+// More than one read takes, so that a tag is left for a read of its own.
+void tst_Manager::aReadThatEndsBehindATag()
+{
+    QSignalSpy received(mManager, &TutorialManager::received);
+    sHost->sendBytes(bytes("0\2alive\0").repeated(512) + '0');
+    QTRY_COMPARE(received.size(), 512);
+    QTest::qWait(100);
+    sHost->sendBytes(bytes("\2alive\0"));
+    QTRY_COMPARE(received.size(), 513);
 }
 
 void tst_Manager::messagesBeforeStartAreIgnored()
