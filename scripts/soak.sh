@@ -55,8 +55,8 @@ watched() {
     sleep "$pause"
     tutorial=$(cat /proc/$demo/task/*/children 2>/dev/null)
     if [ -n "$tutorial" ]; then
-      sample tutorial-demo $demo
-      sample tutorial ${tutorial% }
+      # Either may end while it is looked at.
+      { sample tutorial-demo $demo; sample tutorial ${tutorial% }; } 2>/dev/null
     fi
   done
   wait $demo
