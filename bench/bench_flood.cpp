@@ -284,13 +284,12 @@ int main(int argc, char** argv)
     reportRow(QStringLiteral("longest wait for \"alive\" meanwhile"),
         figure(longestGap(begin, alives.mid(0, during) << end) / 1e3, "s"), none, none, QString(),
         true);
-    bool kept = reportRow(QStringLiteral("the same after it"), figure(afterMs / 1e3, "s"),
-        none, none, QStringLiteral("at most ") + figure(kMostAliveMs / 1e3, "s"),
-        afterMs <= kMostAliveMs);
-    kept &=
-        reportRow(QStringLiteral("memory after it, to before"), figure(memoryAfter, "MiB"),
-            figure(memoryBefore, "MiB"), QStringLiteral("%1 x").arg(ratio, 0, 'f', 2),
-            kJudgesMemory ? QStringLiteral("at most %1 x").arg(kMostMemory) : QString(),
-            !kJudgesMemory || ratio <= kMostMemory);
+    bool kept =
+        reportRow(QStringLiteral("the same after it"), figure(afterMs / 1e3, "s"), none, none,
+            QStringLiteral("at most ") + figure(kMostAliveMs / 1e3, "s"), afterMs <= kMostAliveMs);
+    kept &= reportRow(QStringLiteral("memory after it, to before"), figure(memoryAfter, "MiB"),
+        figure(memoryBefore, "MiB"), QStringLiteral("%1 x").arg(ratio, 0, 'f', 2),
+        kJudgesMemory ? QStringLiteral("at most %1 x").arg(kMostMemory) : QString(),
+        !kJudgesMemory || ratio <= kMostMemory);
     return kept ? 0 : 1;
 }

@@ -88,14 +88,12 @@ QByteArray Guest::receive(int timeoutMs)
 {
     if (mSocket->bytesAvailable() == 0 && !mSocket->waitForReadyRead(timeoutMs)
         && mSocket->state() != QLocalSocket::ConnectedState) {
-        mProcess.waitForFinished(1000);
-        qFatal("%s has ended %d %d", qUtf8Printable(mProcess.program()), mProcess.exitStatus(),
-            mProcess.exitCode());
+        mProcess.waitForFinished(kDeadlineMs);
+        qFatal("%s has ended with %d", qUtf8Printable(mProcess.program()), mProcess.exitCode());
     }
     return mSocket->readAll();
 }
 
-// An entry of a file in /proc.
 double Guest::kiBOf(const char* file, const char* entry) const
 {
     QFile status(QStringLiteral("/proc/%1/%2").arg(mProcess.processId()).arg(QLatin1String(file)));

@@ -19,7 +19,7 @@ public:
     double processorMs() const;
     // The most memory that it held at a time, in MiB.
     double peakMiB() const;
-    // The memory that it holds now, in MiB; of what it shares with others its part.
+    // The memory of its own that it holds now, without files, in MiB.
     double memoryMiB() const;
 
     // A packet of messages, the fields of each separated by '|'.
@@ -34,6 +34,7 @@ public:
     QByteArray receive(int timeoutMs);
 
 private:
+    // An entry of one of its files in /proc.
     double kiBOf(const char* file, const char* entry) const;
 
     QLocalServer mServer;

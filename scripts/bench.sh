@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the release and measures it beside the floor, the least program of the
 # same kind. Prints the medians as a table in Markdown, and fails when a limit
-# is not kept. It takes about two minutes; leave the machine alone meanwhile.
+# is not kept. It takes about four minutes; leave the machine alone meanwhile.
 #
 # TUTORIAL_SKIP_BOOTSTRAP=1: do not look for missing packages.
 set -eu
