@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QPoint>
 #include <QQueue>
 #include <QRandomGenerator>
@@ -33,6 +34,7 @@ namespace {
 constexpr int kMessages = 1000000;
 constexpr int kSteps = 10000;
 constexpr int kEditedSteps = 100; // an edited step holds memory of its own
+constexpr int kFirstMessages = 4000;
 constexpr int kSettleMs = 3000;
 constexpr int kDeadlineMs = 60000; // without an answer
 constexpr int kMostDelayMs = 10; // of what has arrived
@@ -239,6 +241,8 @@ int main(int argc, char** argv)
     const QString path = folder.filePath(QStringLiteral("scenario.js"));
     if (!writeScenarioFile(path, scenarioJson(steps(kSteps))))
         qFatal("%s is not written", qUtf8Printable(path));
+    // What is kept of the unsaved changes goes with the scenario.
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
 
     Guest guest(arguments.at(1));
     Answers answers(&guest);
@@ -257,6 +261,9 @@ int main(int argc, char** argv)
     answers.takeAll();
     guest.send(translations << messages.focus(0));
     answers.takeAll();
+    // What the first messages of each kind and the first edits leave behind is no
+    // part of the flood's.
+    flood(&guest, &answers, &messages, kFirstMessages);
     QThread::msleep(kSettleMs);
     const double memoryBefore = guest.memoryMiB();
 
