@@ -1,5 +1,6 @@
 #include "overlay/tutorialtooltip.h"
 
+#include "overlay/hinttext.h"
 #include "overlay/tutorialindicator.h"
 
 #include <QCloseEvent>
@@ -7,7 +8,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTextDocument>
-#include <QTextEdit>
 
 namespace {
 
@@ -22,7 +22,7 @@ constexpr QSize kButtonSize(64, 32);
 
 TutorialTooltip::TutorialTooltip(QWidget* parent)
     : QWidget(nullptr), mIndicator(qobject_cast<TutorialIndicator*>(parent)),
-      mText(new QTextEdit(this))
+      mText(new HintText(this))
 {
     const int height = mIndicator->hintHeight();
     mText->setMinimumSize(kTextWidth, height);

@@ -20,7 +20,6 @@ class tst_Process : public QObject {
 
 private slots:
     void emptyConnectionId();
-    void defaultConnectionId();
     void aliveEverySecond();
     void byeEndsIt_data();
     void byeEndsIt();
@@ -35,13 +34,6 @@ void tst_Process::emptyConnectionId()
     QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
     QCOMPARE(host.process().exitCode(), 0);
     QCOMPARE(host.connections(), 0);
-}
-
-void tst_Process::defaultConnectionId()
-{
-    TestHost host(QStringLiteral("20160802-1100"));
-    QVERIFY(host.startProgram({}));
-    QTRY_COMPARE_WITH_TIMEOUT(host.connections(), 1, kDeadlineMs);
 }
 
 void tst_Process::aliveEverySecond()

@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <sys/stat.h>
 
 using namespace Tutorial;
 
@@ -95,6 +96,7 @@ private slots:
 
     void glideMovesBalloonAndButtons();
     void hintSetsTheHeight();
+    void hintShowsPicturesOutOfFiles();
     void iconIsDrawnWithoutAnArrow();
     void sideChangeMovesTheTextBox();
     void balloonThatWentMissingIsMadeAgain();
@@ -156,6 +158,26 @@ void tst_Indicator::hintSetsTheHeight()
     mIndicator->setHint(QString());
     QVERIFY(!text->isVisible());
     QCOMPARE(mIndicator->hintHeight(), height);
+}
+
+// One that has no end used to stop the program, or to fill the memory.
+void tst_Indicator::hintShowsPicturesOutOfFiles()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("picture.png"));
+    QImage drawn(200, 100, QImage::Format_RGB32);
+    drawn.fill(Qt::red);
+    QVERIFY(drawn.save(path));
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    const auto shows = [this](const QString& source) {
+        mIndicator->setHint(QStringLiteral("<img src=\"%1\">").arg(source));
+        return picture({76, 56, 256, 150}).pixelColor(100, 50) == Qt::red;
+    };
+    QVERIFY(shows(path));
+    QVERIFY(!shows(pipe));
+    QVERIFY(!shows(QStringLiteral("file:///dev/zero")));
+    QVERIFY(shows(QStringLiteral("file://") + path));
 }
 
 void tst_Indicator::iconIsDrawnWithoutAnArrow()
