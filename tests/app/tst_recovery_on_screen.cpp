@@ -75,14 +75,13 @@ void tst_RecoveryOnScreen::initTestCase()
         steps.append(QJsonObject{{QStringLiteral("hint"), QStringLiteral("Step")},
             {QStringLiteral("x"), 0}, {QStringLiteral("y"), i}});
     QVERIFY(writeScenarioFile(mPath, scenarioJson(steps)));
-    for (const QString& left : copies())
-        QFile::remove(left);
+    for (const char* home : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+        qputenv(home, QFile::encodeName(mFolder.path()));
 }
 
 QStringList tst_RecoveryOnScreen::copies() const
 {
-    const QDir data(QString::fromLocal8Bit(qgetenv("XDG_DATA_HOME"))
-        + QStringLiteral("/SOLVANTA/TUTORIAL/recovery"));
+    const QDir data(mFolder.filePath(QStringLiteral("SOLVANTA/TUTORIAL/recovery")));
     QStringList paths;
     for (const QString& name : data.entryList(QDir::Files))
         paths << data.filePath(name);
