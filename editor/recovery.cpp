@@ -5,7 +5,7 @@
 #include "editor/savedstate.h"
 #include "editor/scenariowriter.h"
 
-#include <QLoggingCategory>
+#include <QDebug>
 #include <QtConcurrent>
 
 using namespace TutorialEditor;
