@@ -2,8 +2,8 @@
 
 #include "editor/hostmessages.h"
 #include "editor/manager.h"
-#include "tutorial/terminationsignals.h"
-#include "tutorial/tutorialmanager.h"
+#include "tutorial/process/terminationsignals.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QApplication>
 #include <QPointer>

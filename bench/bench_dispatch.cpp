@@ -1,5 +1,5 @@
 #include "bench/report.h"
-#include "tutorial/tutorialmanager.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

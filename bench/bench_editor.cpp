@@ -1,11 +1,11 @@
 #include "bench/report.h"
 #include "bench/samplesteps.h"
 #include "editor/dialog.h"
-#include "editor/model.h"
-#include "editor/recoverycopy.h"
-#include "editor/scenarioreader.h"
-#include "editor/scenariowriter.h"
-#include "editor/treeview.h"
+#include "editor/document/recoverycopy.h"
+#include "editor/model/model.h"
+#include "editor/model/treeview.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -72,7 +72,8 @@ double medianMs(
 
 void load(Model* model, const QString& fileText)
 {
-    model->setContents(removeMarkers(removeComments(fileText)));
+    QStringList errors;
+    model->setContents(removeMarkers(removeComments(fileText)), &errors);
 }
 
 // What any tree of these steps needs: a text, an icon and a string an item.

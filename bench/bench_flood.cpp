@@ -1,7 +1,7 @@
 #include "bench/guest.h"
 #include "bench/report.h"
 #include "bench/samplesteps.h"
-#include "editor/scenariowriter.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

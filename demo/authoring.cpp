@@ -3,9 +3,9 @@
 #include "demo/hint.h"
 #include "demo/tutorialsession.h"
 #include "demo/windowregistry.h"
-#include "editor/jsonescape.h"
-#include "editor/scenariowriter.h"
-#include "tutorial/tutorialaction.h"
+#include "editor/scenario/jsonescape.h"
+#include "editor/scenario/scenariowriter.h"
+#include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QFileInfo>
 #include <QJsonArray>

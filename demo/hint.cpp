@@ -1,6 +1,6 @@
 #include "demo/hint.h"
 
-#include "editor/translationexpression.h"
+#include "editor/scenario/translationexpression.h"
 
 #include <QCoreApplication>
 

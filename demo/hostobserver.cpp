@@ -1,7 +1,7 @@
 #include "demo/hostobserver.h"
 
 #include "demo/windowregistry.h"
-#include "tutorial/tutorialaction.h"
+#include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QAbstractItemView>
 #include <QAction>

@@ -2,7 +2,7 @@
 #include "demo/mainwindow.h"
 #include "demo/tutorialsession.h"
 #include "demo/windowregistry.h"
-#include "tutorial/terminationsignals.h"
+#include "tutorial/process/terminationsignals.h"
 #ifdef DEMO_AUTOPLAY
 #include "demo/autoplayer.h"
 #endif

@@ -3,7 +3,7 @@
 #include "demo/dialogs.h"
 #include "demo/mapview.h"
 #include "demo/project.h"
-#include "tutorial/vocabulary.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QAction>
 #include <QFileDialog>

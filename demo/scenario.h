@@ -1,7 +1,7 @@
 #pragma once
 
 #include "demo/condition.h"
-#include "tutorial/vocabulary.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QHash>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 #include "demo/scenarioplayer.h"
 
-#include "tutorial/tutorialaction.h"
+#include "tutorial/vocabulary/tutorialaction.h"
 
 using namespace Tutorial;
 

@@ -2,7 +2,7 @@
 
 #include "demo/hint.h"
 #include "demo/windowregistry.h"
-#include "editor/scenarioreader.h"
+#include "editor/scenario/scenarioreader.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tutorial/vocabulary.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QHash>
 #include <QList>

@@ -1,12 +1,12 @@
 #include "editor/dialog.h"
 
-#include "editor/condition.h"
-#include "editor/debuglog.h"
-#include "editor/formarea.h"
-#include "editor/model.h"
-#include "editor/textbox.h"
-#include "editor/treeview.h"
-#include "tutorial/tutorialaction.h"
+#include "editor/form/formarea.h"
+#include "editor/form/textbox.h"
+#include "editor/model/model.h"
+#include "editor/model/treeview.h"
+#include "editor/scenario/condition.h"
+#include "editor/scenario/debuglog.h"
+#include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QAction>
 #include <QCheckBox>

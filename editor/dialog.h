@@ -1,8 +1,9 @@
 #pragma once
 
-#include "editor/condition.h"
-#include "editor/savedstate.h"
-#include "editor/stepfields.h"
+#include "editor/document/savedstate.h"
+#include "editor/model/stepeditor.h"
+#include "editor/scenario/condition.h"
+#include "editor/scenario/stepfields.h"
 
 #include <QDialog>
 #include <QVector>
@@ -31,7 +32,7 @@ class TutorialItem;
 // and is shown by the overlay.
 //
 // It is deleted when it closes.
-class Dialog : public QDialog {
+class Dialog : public QDialog, public StepEditor {
     Q_OBJECT
 
 public:
@@ -49,8 +50,9 @@ public:
     Model* model() const { return mModel; }
 
     // Loads a scenario and shows the dialog. text: the file's, without comments
-    // and markers; errors: what was found wrong with it until now.
-    void setContents(const QString& text, const QStringList& errors = QStringList());
+    // and markers; errors: what was found wrong with it until now. All that cannot
+    // be read is shown to the author in one box.
+    void setContents(const QString& text, QStringList errors = QStringList());
     // Takes steps, with the contents of groups, in place of those in the tree, as
     // changes that are not saved, and shows the dialog.
     void recover(const QJsonArray& steps);
@@ -67,7 +69,7 @@ public:
     void localizeAll();
     void localizeSub(QStandardItem* item);
     // Shows an item in the form. Null or an end marker empties the form.
-    void linkToEdit(TutorialItem* item);
+    void linkToEdit(TutorialItem* item) override;
     // Inserts a new step above an item and selects it.
     void insertNewItem(TutorialItem* item);
 
@@ -78,7 +80,7 @@ public:
     void untrCallback(const QString& first, const QString& second);
 
     // A double click into the tree; the index is invalid beside all rows.
-    void onTreeViewDoubleclicked(const QModelIndex& index);
+    void onTreeViewDoubleclicked(const QModelIndex& index) override;
 
     void reject() override;
 

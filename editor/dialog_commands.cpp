@@ -1,14 +1,14 @@
 #include "editor/dialog.h"
 
-#include "editor/debuglog.h"
 #include "editor/errorbox.h"
-#include "editor/model.h"
-#include "editor/scenarioreader.h"
-#include "editor/scenariowriter.h"
-#include "editor/treeview.h"
-#include "editor/tutorialitem.h"
-#include "tutorial/tutorialaction.h"
-#include "tutorial/tutorialmanager.h"
+#include "editor/model/model.h"
+#include "editor/model/treeview.h"
+#include "editor/model/tutorialitem.h"
+#include "editor/scenario/debuglog.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/scenariowriter.h"
+#include "tutorial/runtime/tutorialmanager.h"
+#include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,10 +1,10 @@
 #include "editor/dialog.h"
 
-#include "editor/debuglog.h"
-#include "editor/formarea.h"
-#include "editor/model.h"
-#include "editor/tutorialitem.h"
-#include "tutorial/tutorialmanager.h"
+#include "editor/form/formarea.h"
+#include "editor/model/model.h"
+#include "editor/model/tutorialitem.h"
+#include "editor/scenario/debuglog.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QAction>
 #include <QCheckBox>

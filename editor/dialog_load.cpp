@@ -1,12 +1,13 @@
 #include "editor/dialog.h"
 
-#include "editor/condition.h"
-#include "editor/debuglog.h"
-#include "editor/jsonescape.h"
-#include "editor/model.h"
-#include "editor/treeview.h"
-#include "editor/tutorialitem.h"
-#include "tutorial/tutorialmanager.h"
+#include "editor/errorbox.h"
+#include "editor/model/model.h"
+#include "editor/model/treeview.h"
+#include "editor/model/tutorialitem.h"
+#include "editor/scenario/condition.h"
+#include "editor/scenario/debuglog.h"
+#include "editor/scenario/jsonescape.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -43,9 +44,10 @@ void setLocalized(TutorialItem* item, const QString& translation)
 
 } // namespace
 
-void Dialog::setContents(const QString& text, const QStringList& errors)
+void Dialog::setContents(const QString& text, QStringList errors)
 {
-    mModel->setContents(text, errors);
+    mModel->setContents(text, &errors);
+    showErrors(tr("Parse error"), errors);
     mSaved = SavedState(getCurrentSteps());
     bringToFront();
 }

@@ -1,10 +1,10 @@
 #include "editor/dialog.h"
 
-#include "editor/debuglog.h"
 #include "editor/manager.h"
-#include "editor/model.h"
-#include "editor/scenariowriter.h"
-#include "editor/tutorialitem.h"
+#include "editor/model/model.h"
+#include "editor/model/tutorialitem.h"
+#include "editor/scenario/debuglog.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QCloseEvent>
 #include <QJsonArray>

@@ -1,7 +1,7 @@
 #include "editor/hostmessages.h"
 
 #include "editor/manager.h"
-#include "tutorial/tutorialmanager.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QApplication>
 #include <QScopedValueRollback>

@@ -1,6 +1,6 @@
 #include "editor/item.h"
 
-#include "editor/debuglog.h"
+#include "editor/scenario/debuglog.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

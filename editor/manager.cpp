@@ -1,13 +1,13 @@
 #include "editor/manager.h"
 
-#include "editor/debuglog.h"
 #include "editor/dialog.h"
+#include "editor/document/recoverycopy.h"
 #include "editor/errorbox.h"
 #include "editor/recovery.h"
-#include "editor/recoverycopy.h"
-#include "editor/savecheck.h"
-#include "editor/scenarioreader.h"
-#include "editor/scenariowriter.h"
+#include "editor/scenario/debuglog.h"
+#include "editor/scenario/savecheck.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QAbstractButton>
 #include <QDateTime>
@@ -19,10 +19,6 @@
 using namespace TutorialEditor;
 
 namespace {
-
-const QString kIconFiles[] = {QStringLiteral("click.png"), QStringLiteral("double_click.png"),
-    QStringLiteral("right_click.png"), QStringLiteral("eye.png"), QStringLiteral("wait.png"),
-    QStringLiteral("keyboard.png")};
 
 QString titleOf(const QString& path)
 {
@@ -213,11 +209,4 @@ Manager* Manager::ensure()
     if (!mInstance->mDialog)
         mInstance->mDialog = new Dialog(nullptr);
     return mInstance;
-}
-
-QString TutorialEditor::getIconFilename(Tutorial::EnumIconKind kind)
-{
-    if (kind < 0 || kind >= Tutorial::IconKindCount)
-        return QString();
-    return QStringLiteral(":/resource/png/%1").arg(kIconFiles[kind]);
 }

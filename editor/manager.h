@@ -1,7 +1,5 @@
 #pragma once
 
-#include "tutorial/vocabulary.h"
-
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -60,8 +58,5 @@ private:
     std::unique_ptr<Recovery> mRecovery; // of the scenario that is open
     bool mIsUnreadable = false; // what save() wrote there last
 };
-
-// The picture of an icon kind; empty for a value that is none.
-QString getIconFilename(Tutorial::EnumIconKind kind);
 
 } // namespace TutorialEditor

@@ -1,9 +1,9 @@
 #include "editor/recovery.h"
 
 #include "editor/dialog.h"
-#include "editor/recoverycopy.h"
-#include "editor/savedstate.h"
-#include "editor/scenariowriter.h"
+#include "editor/document/recoverycopy.h"
+#include "editor/document/savedstate.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QDebug>
 #include <QtConcurrent>

@@ -2,6 +2,7 @@
 
 #include "overlay/overlayowner.h"
 #include "overlay/tutorialtooltip.h"
+#include "resource/pictures.h"
 
 #include <QCloseEvent>
 #include <QPushButton>
@@ -10,27 +11,10 @@
 #include <limits>
 #include <utility>
 
-// The pictures are linked from a static library, whose resources are not
-// registered by themselves. The macro has to stand outside of any namespace.
-static void registerPictures()
-{
-    Q_INIT_RESOURCE(tutorial);
-}
-
 namespace {
 
 constexpr int kTickMs = 100;
 constexpr int kNoButtonOffset = 56; // px, from the yes button
-
-// In the order of the icon kinds.
-const char* const kIconFiles[Tutorial::IconKindCount] = {
-    "click", "double_click", "right_click", "eye", "wait", "keyboard"};
-
-QPixmap picture(const char* name)
-{
-    registerPictures();
-    return QPixmap(QStringLiteral(":/resource/png/%1.png").arg(QLatin1String(name)));
-}
 
 int saturatedSum(int a, int b)
 {
@@ -52,9 +36,11 @@ void setShown(QWidget* window, bool shown)
 } // namespace
 
 TutorialIndicator::TutorialIndicator(QWidget* parent, OverlayOwner* owner)
-    : QWidget(parent), mArrow(picture("arrow")), mOwner(owner)
+    : QWidget(parent), mArrow(Tutorial::getArrowFilename()), mOwner(owner)
 {
-    std::transform(std::begin(kIconFiles), std::end(kIconFiles), std::begin(mIcons), picture);
+    for (int kind = 0; kind < Tutorial::IconKindCount; ++kind)
+        mIcons[kind] =
+            QPixmap(Tutorial::getIconFilename(static_cast<Tutorial::EnumIconKind>(kind)));
     createTooltip();
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "overlay/motion.h"
-#include "tutorial/vocabulary.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QElapsedTimer>
 #include <QPixmap>

@@ -1,6 +1,6 @@
 #include "tests/support/testhost.h"
 #include "tests/support/xdotool.h"
-#include "tutorial/vocabulary.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QApplication>
 #include <QDialog>

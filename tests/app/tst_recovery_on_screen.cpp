@@ -1,5 +1,5 @@
-#include "editor/scenarioreader.h"
-#include "editor/scenariowriter.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/scenariowriter.h"
 #include "tests/support/testhost.h"
 #include "tests/support/xdotool.h"
 

@@ -1,7 +1,7 @@
 #include "demo/hint.h"
 #include "demo/scenario.h"
-#include "editor/scenarioreader.h"
-#include "editor/scenariowriter.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QTranslator>
 #include <QtTest>

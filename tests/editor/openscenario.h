@@ -2,10 +2,10 @@
 
 #include "editor/dialog.h"
 #include "editor/manager.h"
-#include "editor/model.h"
-#include "editor/scenariowriter.h"
-#include "editor/treeview.h"
-#include "editor/tutorialitem.h"
+#include "editor/model/model.h"
+#include "editor/model/treeview.h"
+#include "editor/model/tutorialitem.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QAbstractItemModelTester>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "openscenario.h"
 
-#include "editor/scenarioreader.h"
-#include "editor/translationescape.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/translationescape.h"
 
 #include <QClipboard>
 #include <QComboBox>

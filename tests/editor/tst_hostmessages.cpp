@@ -1,9 +1,9 @@
 #include "openscenario.h"
 
+#include "editor/document/recoverycopy.h"
 #include "editor/hostmessages.h"
-#include "editor/recoverycopy.h"
 #include "tests/support/modalboxes.h"
-#include "tutorial/tutorialmanager.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>

@@ -1,6 +1,6 @@
 #include "openscenario.h"
 
-#include "editor/recoverycopy.h"
+#include "editor/document/recoverycopy.h"
 #include "tests/support/modalboxes.h"
 
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #include "demo/scenario.h"
-#include "editor/scenarioreader.h"
-#include "editor/scenariowriter.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/scenariowriter.h"
 
 #include <QRegularExpression>
 #include <QSet>

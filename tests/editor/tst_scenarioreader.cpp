@@ -1,4 +1,4 @@
-#include "editor/scenarioreader.h"
+#include "editor/scenario/scenarioreader.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -4,7 +4,7 @@
 #include "overlay/tutorialtooltip.h"
 #include "tests/fuzz/fuzzer.h"
 #include "tests/support/windows.h"
-#include "tutorial/tutorialmanager.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

@@ -1,7 +1,7 @@
-#include "editor/savecheck.h"
-#include "editor/scenarioreader.h"
-#include "editor/scenariowriter.h"
-#include "editor/translationexpression.h"
+#include "editor/scenario/savecheck.h"
+#include "editor/scenario/scenarioreader.h"
+#include "editor/scenario/scenariowriter.h"
+#include "editor/scenario/translationexpression.h"
 #include "tests/fuzz/fuzzer.h"
 
 #include <QJsonDocument>

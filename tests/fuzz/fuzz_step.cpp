@@ -1,8 +1,8 @@
-#include "editor/condition.h"
-#include "editor/stepfields.h"
-#include "editor/stepjson.h"
+#include "editor/scenario/condition.h"
+#include "editor/scenario/stepfields.h"
+#include "editor/scenario/stepjson.h"
 #include "tests/fuzz/fuzzer.h"
-#include "tutorial/vocabulary.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QJsonDocument>
 #include <QVector>

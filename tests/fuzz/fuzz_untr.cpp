@@ -1,8 +1,8 @@
 #include "editor/dialog.h"
-#include "editor/jsonescape.h"
-#include "editor/model.h"
-#include "editor/translationexpression.h"
-#include "editor/tutorialitem.h"
+#include "editor/model/model.h"
+#include "editor/model/tutorialitem.h"
+#include "editor/scenario/jsonescape.h"
+#include "editor/scenario/translationexpression.h"
 #include "tests/fuzz/fuzzer.h"
 
 #include <QJsonArray>

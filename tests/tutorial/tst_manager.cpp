@@ -3,7 +3,7 @@
 #include "overlay/tutorialtooltip.h"
 #include "tests/support/testhost.h"
 #include "tests/support/windows.h"
-#include "tutorial/tutorialmanager.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>

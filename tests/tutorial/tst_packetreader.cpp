@@ -1,5 +1,5 @@
 #include "tests/support/testhost.h"
-#include "tutorial/packetreader.h"
+#include "tutorial/runtime/packetreader.h"
 
 #include <QtTest>
 

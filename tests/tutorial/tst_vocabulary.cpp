@@ -1,5 +1,5 @@
-#include "tutorial/tutorialaction.h"
-#include "tutorial/vocabulary.h"
+#include "tutorial/vocabulary/tutorialaction.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QtTest>
 

@@ -1,0 +1,207 @@
+#include "tutorial/runtime/tutorialmanager.h"
+
+#include "overlay/tutorialindicator.h"
+#include "tutorial/runtime/peercredentials.h"
+
+#include <QLocalSocket>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr char kOwnTag = '1';
+constexpr char kMessageSeparator = 0x02;
+constexpr QChar kFieldSeparator = QChar(0x01);
+constexpr int kSilentTicks = 300; // about 30 seconds
+constexpr int kAliveTicks = 10;
+// Bytes that wait for the host to read them; whole messages above that are lost.
+// A scenario whose hints fill them would hold a million steps.
+constexpr qint64 kMostUnread = 64 * 1024 * 1024;
+
+const QString kBye = QStringLiteral("bye");
+
+bool isBye(const QStringRef& message)
+{
+    return message.startsWith(kBye)
+        && (message.size() == kBye.size() || message.at(kBye.size()) == kFieldSeparator);
+}
+
+int saturated(qint64 value)
+{
+    return static_cast<int>(std::clamp<qint64>(
+        value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+void TutorialManager::send(const QString& message)
+{
+    if (!mSocket || !mConnected)
+        return;
+    const bool isBehind = mSocket->bytesToWrite() > kMostUnread;
+    if (isBehind && !mHostIsBehind)
+        qWarning("The host does not read: what is sent to it is dropped.");
+    mHostIsBehind = isBehind;
+    if (isBehind)
+        return;
+    QByteArray packet;
+    packet += kOwnTag;
+    packet += kMessageSeparator;
+    packet += message.toUtf8();
+    packet += '\0';
+    mSocket->write(packet);
+}
+
+QString TutorialManager::getEscapedString(const QString& text)
+{
+    static const QRegularExpression special(QStringLiteral("([\"\\\\])"));
+    return QString(text).replace(special, QStringLiteral("\\\\1"));
+}
+
+QString TutorialManager::getUnescapedString(const QString& text)
+{
+    static const QRegularExpression escaped(
+        QStringLiteral("[\\\\](.)"), QRegularExpression::DotMatchesEverythingOption);
+    return QString(text).replace(escaped, QStringLiteral("\\1"));
+}
+
+void TutorialManager::onConnected()
+{
+    QString user;
+    if (isPeerOfThisUser(mSocket->socketDescriptor(), &user)) {
+        mConnected = true;
+        return;
+    }
+    qWarning("The server %s belongs to %s: it is not talked to.",
+        qUtf8Printable(mSocket->serverName()), qUtf8Printable(user));
+    // From here on all is as if the server had refused. The socket may still be
+    // inside of its connectToServer(), which would not survive an abort(): that
+    // waits, and whatever arrives until then is heard by nobody.
+    mSocket->disconnect(this);
+    QMetaObject::invokeMethod(mSocket, &QLocalSocket::abort, Qt::QueuedConnection);
+}
+
+void TutorialManager::onReadyRead()
+{
+    const QByteArray data = mSocket->readAll();
+    const bool continues = mReadWasFull;
+    mReadWasFull = data.size() >= mSocket->readBufferSize();
+    handleRead(data, continues);
+}
+
+void TutorialManager::handleRead(const QByteArray& data, bool continues)
+{
+    mSilenceTicks = 0;
+    mPackets.append(data, continues);
+    QString text;
+    while (mPackets.next(&text)) {
+        const QVector<QStringRef> messages = text.splitRef(QLatin1Char(kMessageSeparator));
+        for (const QStringRef& message : messages) {
+            if (isBye(message)) {
+                close();
+                return;
+            }
+            emit received(message.toString());
+            if (!mSocket)
+                return; // closed by whoever listened
+        }
+    }
+}
+
+void TutorialManager::timerEvent(QTimerEvent*)
+{
+    if (!mSocket)
+        return;
+    if (mSilenceTicks++ >= kSilentTicks - 1) {
+        close();
+        return;
+    }
+    if (mAliveTicks++ >= kAliveTicks - 1) {
+        mAliveTicks = 0;
+        send(QStringLiteral("alive"));
+    }
+}
+
+void TutorialManager::onReceived(const QString& message)
+{
+    const Fields fields = message.splitRef(kFieldSeparator);
+    const QStringRef& name = fields.first();
+    if (name == QLatin1String("start")) {
+        onStart(fields);
+    } else if (name == QLatin1String("stop")) {
+        stop();
+    } else if (!mRunning) {
+        return;
+    } else if (name == QLatin1String("windowPosition")) {
+        onWindowPosition(fields);
+    } else if (name == QLatin1String("windowStack")) {
+        onWindowStack(fields);
+    } else if (name == QLatin1String("indicator")) {
+        onIndicator(fields);
+    } else if (name == QLatin1String("state")) {
+        onState(fields);
+    }
+    // The rest asks nothing of this process: "alive" has already done its work
+    // by arriving, "contents" is for a process that runs the scenario itself,
+    // and the log window shows no text.
+}
+
+void TutorialManager::onStart(const Fields& fields)
+{
+    if (fields.size() >= 5) {
+        const int left = fields.at(1).toInt();
+        const int top = fields.at(2).toInt();
+        const int right = saturated(qint64(left) + fields.at(3).toInt() - 1);
+        const int bottom = saturated(qint64(top) + fields.at(4).toInt() - 1);
+        mHostRect.setCoords(left, top, right, bottom);
+    }
+    start();
+}
+
+void TutorialManager::onIndicator(const Fields& fields)
+{
+    if (!mIndicator || fields.size() < 4)
+        return;
+    const QStringRef& verb = fields.at(1);
+    const int x = fields.at(2).toInt();
+    const int y = fields.at(3).toInt();
+    if (verb == QLatin1String("updateXy")) {
+        mIndicator->moveInterpolating(x, y);
+    } else if (verb == QLatin1String("update") && fields.size() >= 8) {
+        pointIndicator(x, y, static_cast<Tutorial::EnumWindowKind>(fields.at(4).toInt()),
+            fields.at(5).toString(), fields.at(6).toInt(),
+            static_cast<Tutorial::EnumIconKind>(fields.at(7).toInt()));
+    }
+}
+
+void TutorialManager::onState(const Fields& fields)
+{
+    if (!mIndicator || fields.size() < 2)
+        return;
+    const bool hide = fields.at(1) == QLatin1String("hide");
+    if (!hide && fields.at(1) != QLatin1String("show"))
+        return;
+    mHiddenByHost = hide;
+    updateVisibility();
+}
+
+void TutorialManager::onWindowStack(const Fields& fields)
+{
+    if (fields.size() < 2)
+        return;
+    if (fields.at(1) == QLatin1String("push") && fields.size() >= 3) {
+        mWindowStack.append(static_cast<Tutorial::EnumWindowKind>(fields.at(2).toInt()));
+    } else if (fields.at(1) == QLatin1String("pop") && !mWindowStack.isEmpty()) {
+        mWindowStack.removeLast();
+    }
+}
+
+void TutorialManager::onWindowPosition(const Fields& fields)
+{
+    if (fields.size() < 4)
+        return;
+    setXy(static_cast<Tutorial::EnumWindowKind>(fields.at(1).toInt()), fields.at(2).toInt(),
+        fields.at(3).toInt());
+}
