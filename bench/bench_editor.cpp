@@ -192,7 +192,7 @@ bool measureCommands()
             [&] { QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, group); },
             [&] { tree->clearSelection(); });
         if (tree->getSelectedIndexes().size() != kSteps + 2)
-            qFatal("%d rows are selected", tree->getSelectedIndexes().size());
+            qFatal("%d rows are selected", int(tree->getSelectedIndexes().size()));
         kept &= report(QStringLiteral("selecting a group of 10,000 steps"), click,
             medianMs([&] { plain.selectAll(); }, [&] { plain.clearSelection(); }), 2);
     }

@@ -72,7 +72,7 @@ void HostMessages::receive(const QString& message)
     // keep arriving.
     if (mTasks.isEmpty())
         QMetaObject::invokeMethod(this, &HostMessages::runTasks, Qt::QueuedConnection);
-    mTasks.enqueue({task, message.size() + kAllowance});
+    mTasks.enqueue({task, int(message.size()) + kAllowance});
     mWaiting += mTasks.last().size;
 }
 

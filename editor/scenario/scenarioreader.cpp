@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QTextCodec>
 #include <QVector>
 
 #include <algorithm>
@@ -46,11 +45,12 @@ QString removeBlockComments(const QString& text)
         const int close = text.indexOf(QLatin1String("*/"), i + 1);
         if (close == -1)
             break;
-        result += text.midRef(copied, i - copied);
+        appendTo(&result, QStringView(text).mid(copied, i - copied));
         result.chop(1);
         i = copied = close + 2;
     }
-    return result += text.midRef(copied);
+    appendTo(&result, QStringView(text).mid(copied));
+    return result;
 }
 
 QString removeLineComments(const QString& text)
@@ -69,10 +69,11 @@ QString removeLineComments(const QString& text)
         const int end = text.indexOf(QLatin1Char('\n'), first);
         if (end == -1) // no whole line: it stays
             break;
-        result += text.midRef(copied, line - copied);
+        appendTo(&result, QStringView(text).mid(copied, line - copied));
         line = copied = end + 1;
     }
-    return result += text.midRef(copied);
+    appendTo(&result, QStringView(text).mid(copied));
+    return result;
 }
 
 // Position of the first `marker` outside of strings; the text's size for none.
@@ -81,7 +82,7 @@ int findMarker(const QString& text, const QString& marker)
     const char first = marker.front().toLatin1();
     TextWalker walker(text);
     int i = walker.find(first, 0);
-    while (i < text.size() && !text.midRef(i).startsWith(marker))
+    while (i < text.size() && !QStringView(text).mid(i).startsWith(marker))
         i = walker.find(first, walker.next(i));
     return i;
 }
@@ -95,9 +96,9 @@ bool TutorialEditor::readScenarioText(const QString& path, QString* text, QStrin
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile)
         return false;
     const QByteArray bytes = file.readAll();
-    QTextCodec::ConverterState state;
-    *text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0)
+    *text = QString::fromUtf8(bytes);
+    const QByteArray mark("\xef\xbb\xbf"); // that some editors write first
+    if (text->toUtf8() != (bytes.startsWith(mark) ? bytes.mid(mark.size()) : bytes))
         errors->append(
             ReadError::tr("%1 is not UTF-8 text: what could not be read was replaced").arg(path));
     return true;
@@ -122,7 +123,7 @@ QString TutorialEditor::removeMarkers(const QString& text)
 
     // What closes the text is in no string.
     int tail = indexOfPair(text, ']', ';');
-    if (tail != -1 && !text.midRef(tail + kTail.size()).trimmed().isEmpty())
+    if (tail != -1 && !QStringView(text).mid(tail + kTail.size()).trimmed().isEmpty())
         tail = findMarker(text, kTail);
     if (tail != -1 && tail < text.size())
         removed.append({tail + 1, tail + kTail.size()});
@@ -132,10 +133,11 @@ QString TutorialEditor::removeMarkers(const QString& text)
     result.reserve(text.size());
     int copied = 0;
     for (const QPair<int, int>& range : qAsConst(removed)) {
-        result += text.midRef(copied, range.first - copied);
+        appendTo(&result, QStringView(text).mid(copied, range.first - copied));
         copied = range.second;
     }
-    return result += text.midRef(copied);
+    appendTo(&result, QStringView(text).mid(copied));
+    return result;
 }
 
 QJsonArray TutorialEditor::parseSteps(const QString& text, QStringList* errors)

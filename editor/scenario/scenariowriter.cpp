@@ -213,7 +213,7 @@ QString TutorialEditor::scenarioFileText(const QString& json)
     int end = json.size();
     while (end > 0 && isLineEnd(json.at(end - 1)))
         --end;
-    return QLatin1String("var scenario = ") + json.leftRef(end) + QLatin1Char(';');
+    return QLatin1String("var scenario = ") + json.left(end) + QLatin1Char(';');
 }
 
 bool TutorialEditor::writeScenarioFile(const QString& path, const QString& json)

@@ -157,7 +157,7 @@ int partSize(const QString& stored, int position, const QString& held)
     const int end = position + held.size();
     const bool endsThere =
         end == stored.size() || (end < stored.size() && stored.at(end) == QLatin1Char(','));
-    if (endsThere && stored.midRef(position, held.size()) == held)
+    if (endsThere && QStringView(stored).mid(position, held.size()) == held)
         return held.size();
     const int comma = stored.indexOf(QLatin1Char(','), position);
     return (comma == -1 ? stored.size() : comma) - position;

@@ -12,6 +12,12 @@ inline bool isAt(const QString& text, int position, char character)
     return position < text.size() && text.at(position) == QLatin1Char(character);
 }
 
+// Appends a part of a text to another one.
+inline void appendTo(QString* out, QStringView part)
+{
+    out->append(part.data(), int(part.size()));
+}
+
 // Steps through a text from character to character, but over a quoted string
 // and over a complete translation expression at once. A string starts and ends
 // on one line.

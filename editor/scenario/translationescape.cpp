@@ -77,7 +77,7 @@ bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form, QStrin
         const int shift = result.text.size() - copied;
         for (; known != rewriting->expressions.cend() && known->begin < end; ++known)
             result.expressions.append({known->begin + shift, known->end + shift});
-        result.text += text.midRef(copied, end - copied);
+        appendTo(&result.text, QStringView(text).mid(copied, end - copied));
         copied = end;
     };
 
@@ -85,7 +85,7 @@ bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form, QStrin
     TextWalker walker(text);
     NextOccurrence closeMarker(text, kCloseMarker);
     for (int i = walker.find(first, 0); i < text.size(); i = walker.find(first, i)) {
-        if (!text.midRef(i).startsWith(form.openMarker)) {
+        if (!QStringView(text).mid(i).startsWith(form.openMarker)) {
             i = walker.next(i);
             continue;
         }
@@ -103,10 +103,10 @@ bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form, QStrin
         const int begin = result.text.size() + i - copied;
         copyUntil(i);
         result.text += QLatin1Char('"');
-        appendJsonEscaped(
-            &result.text, text.midRef(i, end - i + (hasComma && form.takesComma ? 1 : 0)));
+        appendJsonEscaped(&result.text,
+            QStringView(text).mid(i, end - i + (hasComma && form.takesComma ? 1 : 0)));
         result.text += QLatin1Char('"');
-        result.expressions.append({begin, result.text.size()});
+        result.expressions.append({begin, int(result.text.size())});
         if (hasComma) {
             result.text += QLatin1Char(',');
             ++end;
@@ -152,7 +152,7 @@ StringEnd stringEnd(const QString& text, int content)
         if (end.kind != StringEnd::None)
             return end;
     }
-    return {StringEnd::None, text.size(), text.size()};
+    return {StringEnd::None, int(text.size()), int(text.size())};
 }
 
 StringEnd valueEnd(const QString& text, int content)

@@ -97,7 +97,7 @@ bool TutorialEditor::parseTranslationExpression(
     const int end = translationExpressionEnd(text, 0, &literals);
     if (end == -1 || literals.size() > 2)
         return false;
-    if (end != text.size() && text.midRef(end).trimmed() != QLatin1String(","))
+    if (end != text.size() && QStringView(text).mid(end).trimmed() != QLatin1String(","))
         return false;
 
     const QString first = unescaped(literals.first());

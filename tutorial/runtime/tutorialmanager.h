@@ -7,7 +7,7 @@
 #include <QList>
 #include <QPoint>
 #include <QRect>
-#include <QStringRef>
+#include <QStringView>
 #include <QVector>
 
 class QApplication;
@@ -121,7 +121,7 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    using Fields = QVector<QStringRef>;
+    using Fields = QVector<QStringView>;
     static constexpr int kUnknownWindowState = 4;
 
     // Handlers of the host's messages. Fields come as they arrived, the name

@@ -22,10 +22,25 @@ constexpr qint64 kMostUnread = 64 * 1024 * 1024;
 
 const QString kBye = QStringLiteral("bye");
 
-bool isBye(const QStringRef& message)
+bool isBye(QStringView message)
 {
     return message.startsWith(kBye)
         && (message.size() == kBye.size() || message.at(kBye.size()) == kFieldSeparator);
+}
+
+// What stands between the separators, empty parts too. The text is not copied.
+QVector<QStringView> parts(QStringView text, QChar separator)
+{
+    QVector<QStringView> found;
+    for (qsizetype end; (end = text.indexOf(separator)) >= 0; text = text.mid(end + 1))
+        found << text.left(end);
+    return found << text;
+}
+
+// A field that is no number counts as 0.
+int numberIn(QStringView field)
+{
+    return field.toString().toInt();
 }
 
 int saturated(qint64 value)
@@ -97,8 +112,8 @@ void TutorialManager::handleRead(const QByteArray& data, bool continues)
     mPackets.append(data, continues);
     QString text;
     while (mPackets.next(&text)) {
-        const QVector<QStringRef> messages = text.splitRef(QLatin1Char(kMessageSeparator));
-        for (const QStringRef& message : messages) {
+        const QVector<QStringView> messages = parts(text, QLatin1Char(kMessageSeparator));
+        for (const QStringView message : messages) {
             if (isBye(message)) {
                 close();
                 return;
@@ -126,8 +141,8 @@ void TutorialManager::timerEvent(QTimerEvent*)
 
 void TutorialManager::onReceived(const QString& message)
 {
-    const Fields fields = message.splitRef(kFieldSeparator);
-    const QStringRef& name = fields.first();
+    const Fields fields = parts(message, kFieldSeparator);
+    const QStringView name = fields.first();
     if (name == QLatin1String("start")) {
         onStart(fields);
     } else if (name == QLatin1String("stop")) {
@@ -151,10 +166,10 @@ void TutorialManager::onReceived(const QString& message)
 void TutorialManager::onStart(const Fields& fields)
 {
     if (fields.size() >= 5) {
-        const int left = fields.at(1).toInt();
-        const int top = fields.at(2).toInt();
-        const int right = saturated(qint64(left) + fields.at(3).toInt() - 1);
-        const int bottom = saturated(qint64(top) + fields.at(4).toInt() - 1);
+        const int left = numberIn(fields.at(1));
+        const int top = numberIn(fields.at(2));
+        const int right = saturated(qint64(left) + numberIn(fields.at(3)) - 1);
+        const int bottom = saturated(qint64(top) + numberIn(fields.at(4)) - 1);
         mHostRect.setCoords(left, top, right, bottom);
     }
     start();
@@ -164,15 +179,15 @@ void TutorialManager::onIndicator(const Fields& fields)
 {
     if (!mIndicator || fields.size() < 4)
         return;
-    const QStringRef& verb = fields.at(1);
-    const int x = fields.at(2).toInt();
-    const int y = fields.at(3).toInt();
+    const QStringView verb = fields.at(1);
+    const int x = numberIn(fields.at(2));
+    const int y = numberIn(fields.at(3));
     if (verb == QLatin1String("updateXy")) {
         mIndicator->moveInterpolating(x, y);
     } else if (verb == QLatin1String("update") && fields.size() >= 8) {
-        pointIndicator(x, y, static_cast<Tutorial::EnumWindowKind>(fields.at(4).toInt()),
-            fields.at(5).toString(), fields.at(6).toInt(),
-            static_cast<Tutorial::EnumIconKind>(fields.at(7).toInt()));
+        pointIndicator(x, y, static_cast<Tutorial::EnumWindowKind>(numberIn(fields.at(4))),
+            fields.at(5).toString(), numberIn(fields.at(6)),
+            static_cast<Tutorial::EnumIconKind>(numberIn(fields.at(7))));
     }
 }
 
@@ -192,7 +207,7 @@ void TutorialManager::onWindowStack(const Fields& fields)
     if (fields.size() < 2)
         return;
     if (fields.at(1) == QLatin1String("push") && fields.size() >= 3) {
-        mWindowStack.append(static_cast<Tutorial::EnumWindowKind>(fields.at(2).toInt()));
+        mWindowStack.append(static_cast<Tutorial::EnumWindowKind>(numberIn(fields.at(2))));
     } else if (fields.at(1) == QLatin1String("pop") && !mWindowStack.isEmpty()) {
         mWindowStack.removeLast();
     }
@@ -202,6 +217,6 @@ void TutorialManager::onWindowPosition(const Fields& fields)
 {
     if (fields.size() < 4)
         return;
-    setXy(static_cast<Tutorial::EnumWindowKind>(fields.at(1).toInt()), fields.at(2).toInt(),
-        fields.at(3).toInt());
+    setXy(static_cast<Tutorial::EnumWindowKind>(numberIn(fields.at(1))), numberIn(fields.at(2)),
+        numberIn(fields.at(3)));
 }
