@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/report.h"
 #include "tutorial/runtime/tutorialmanager.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/report.h"
 #include "bench/samplesteps.h"
 #include "editor/dialog.h"

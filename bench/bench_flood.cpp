@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/guest.h"
 #include "bench/report.h"
 #include "bench/samplesteps.h"

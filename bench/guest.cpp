@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/guest.h"
 
 #include <QElapsedTimer>

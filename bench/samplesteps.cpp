@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/samplesteps.h"
 
 QJsonObject step(int i)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # `cpack` in the build folder makes a Debian package of what install() names.
 set(CPACK_GENERATOR "DEB")
 set(CPACK_PACKAGE_NAME "tutorial")

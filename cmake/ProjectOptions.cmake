@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Flags that every target of the project shares: link `project_options`.
 add_library(project_options INTERFACE)
 target_include_directories(project_options INTERFACE ${CMAKE_SOURCE_DIR})

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # project_run(<name> [DISPLAY] [TIMEOUT <seconds>] COMMAND ...)
 #
 # Registers a command with CTest. It runs on the `offscreen` platform, or, with

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Linked into sanitized programs only: a plugin that was unloaded at exit could
 // not be named in a leak's call stack, so that no suppression would match it.
 extern "C" int dlclose(void*);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/artwork.h"
 
 #include <QHash>

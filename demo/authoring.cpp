@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/authoring.h"
 
 #include "demo/hint.h"

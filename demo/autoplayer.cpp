@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/autoplayer.h"
 
 #include "demo/tutorialsession.h"

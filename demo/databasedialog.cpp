@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/databasedialog.h"
 
 #include <QHBoxLayout>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/formdialog.h"
 
 #include <QCheckBox>

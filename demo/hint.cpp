@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/hint.h"
 
 #include "editor/scenario/translationexpression.h"

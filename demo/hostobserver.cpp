@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/hostobserver.h"
 
 #include "demo/windowregistry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/authoring.h"
 #include "demo/mainwindow.h"
 #include "demo/tutorialsession.h"

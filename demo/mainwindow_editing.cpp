@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/artwork.h"
 #include "demo/databasedialog.h"
 #include "demo/mainwindow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/mapview.h"
 
 #include "demo/artwork.h"

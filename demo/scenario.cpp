@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/scenario.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/scenarioplayer.h"
 
 #include "tutorial/vocabulary/tutorialaction.h"

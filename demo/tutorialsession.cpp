@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/tutorialsession.h"
 
 #include "demo/hint.h"

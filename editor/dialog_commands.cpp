@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/dialog.h"
 
 #include "editor/errorbox.h"

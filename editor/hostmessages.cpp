@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/hostmessages.h"
 
 #include "editor/manager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/item.h"
 
 #include "editor/scenario/debuglog.h"

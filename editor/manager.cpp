@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/manager.h"
 
 #include "editor/dialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/recovery.h"
 
 #include "editor/dialog.h"

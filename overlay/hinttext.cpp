@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/hinttext.h"
 
 #include <QFileInfo>

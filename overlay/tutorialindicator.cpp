@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tutorialindicator.h"
 
 #include "overlay/overlayowner.h"

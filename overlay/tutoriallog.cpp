@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tutoriallog.h"
 
 #include "overlay/overlayowner.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tutorialtooltip.h"
 
 #include "overlay/hinttext.h"

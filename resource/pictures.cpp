@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "resource/pictures.h"
 
 // The pictures are linked from a static library, whose resources are not

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Builds the release and measures it beside the floor, the least program of the
 # same kind. Prints the medians as a table in Markdown, and fails when a limit
 # is not kept. It takes about four minutes; leave the machine alone meanwhile.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Installs what building, testing and demonstrating the project needs.
 # Needs Debian (or a system that uses its packages) and the right to install
 # packages; elsewhere it says what to install and stops with an error.

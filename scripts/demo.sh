@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Builds the program and shows it at work.
 #
 # With a display, opens the small editor and starts its first tutorial. Without

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Builds the fuzzers and runs them, all at once, for some time. An input that
 # breaks a rule ends its fuzzer and is put into build/fuzz/findings; give the
 # file to the program, build/fuzz/bin/fuzz_TARGET, to see it again.

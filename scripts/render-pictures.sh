@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Renders the drawings in resource/svg to the pictures in resource/png. The
 # pictures are committed, so that only who changes a drawing runs this.
 # Needs rsvg-convert (Debian: librsvg2-bin).

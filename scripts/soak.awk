@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Judges what scripts/soak.sh has measured, after a warm-up of a tenth of the
 # time, by the four quarters of the rest.
 #

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Plays a scenario in a loop, the learner included, in a virtual X server, and
 # watches the demo and its tutorial meanwhile. Prints how their memory, windows
 # and file descriptors have changed, and fails when one has grown, when a

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Installs what is needed, builds the release and the sanitized programs without
 # a warning, and runs every test with both, and each fuzzer for a minute. The
 # last line counts the tests.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Brings demo/translations/*.ts up to date with the texts of the demo's sources
 # and scenarios. A text that is gone stays, marked "vanished", in case it comes
 # back.

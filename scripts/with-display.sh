@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Runs a command inside a virtual X server of its own, with a window manager
 # and a compositor, and returns the command's exit code.
 #

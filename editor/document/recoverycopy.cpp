@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/document/recoverycopy.h"
 
 #include "editor/scenario/atomicfile.h"

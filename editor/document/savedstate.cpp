@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/document/savedstate.h"
 
 #include "editor/scenario/scenariowriter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/form/formarea.h"
 
 using namespace TutorialEditor;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/form/textbox.h"
 
 #include <QtMath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/model/model.h"
 
 #include "editor/model/tutorialitem.h"

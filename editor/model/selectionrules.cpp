@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/model/selectionrules.h"
 
 #include "editor/model/tutorialitem.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/model/treeview.h"
 
 #include "editor/model/model.h"

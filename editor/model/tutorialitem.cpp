@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/model/tutorialitem.h"
 
 #include "editor/scenario/stepjson.h"

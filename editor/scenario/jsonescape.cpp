@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/jsonescape.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/readerror.h"
 
 #include "editor/scenario/textwalker.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/savecheck.h"
 
 #include "editor/scenario/scenarioreader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/scenarioreader.h"
 
 #include "editor/scenario/readerror.h"

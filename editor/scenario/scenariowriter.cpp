@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/scenariowriter.h"
 
 #include "editor/scenario/atomicfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/stepjson.h"
 
 #include <QJsonDocument>

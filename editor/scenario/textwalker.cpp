@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/textwalker.h"
 
 #include "editor/scenario/translationexpression.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/translationescape.h"
 
 #include "editor/scenario/jsonescape.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/translationexpression.h"
 
 #include "editor/scenario/textwalker.h"

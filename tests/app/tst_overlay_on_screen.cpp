@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/testhost.h"
 #include "tests/support/xdotool.h"
 #include "tutorial/vocabulary/vocabulary.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/mainwindow.h"
 #include "demo/windowregistry.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/hint.h"
 #include "demo/scenario.h"
 #include "editor/scenario/scenarioreader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demo/scenarioplayer.h"
 #include "tests/demo/fakestate.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/scenarioreader.h"
 #include "tests/support/xdotool.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "openscenario.h"
 
 #include "tests/support/modalboxes.h"

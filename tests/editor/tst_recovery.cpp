@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "openscenario.h"
 
 #include "editor/document/recoverycopy.h"

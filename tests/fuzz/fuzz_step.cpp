@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/scenario/condition.h"
 #include "editor/scenario/stepfields.h"
 #include "editor/scenario/stepjson.h"

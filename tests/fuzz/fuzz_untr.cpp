@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/dialog.h"
 #include "editor/model/model.h"
 #include "editor/model/tutorialitem.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/overlayowner.h"
 #include "overlay/tutorialindicator.h"
 #include "overlay/tutoriallog.h"

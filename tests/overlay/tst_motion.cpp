@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/motion.h"
 
 #include <QtTest>

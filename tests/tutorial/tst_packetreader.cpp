@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/testhost.h"
 #include "tutorial/runtime/packetreader.h"
 

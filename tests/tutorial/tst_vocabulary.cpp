@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tutorial/vocabulary/tutorialaction.h"
 #include "tutorial/vocabulary/vocabulary.h"
 

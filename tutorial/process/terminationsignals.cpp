@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tutorial/process/terminationsignals.h"
 
 #include <QSocketNotifier>

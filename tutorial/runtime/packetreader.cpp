@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tutorial/runtime/packetreader.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tutorial/runtime/peercredentials.h"
 
 #ifdef Q_OS_LINUX

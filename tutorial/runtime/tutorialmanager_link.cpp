@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tutorial/runtime/tutorialmanager.h"
 
 #include "overlay/tutorialindicator.h"

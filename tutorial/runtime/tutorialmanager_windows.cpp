@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tutorial/runtime/tutorialmanager.h"
 
 #include "tutorial/vocabulary/tutorialaction.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tutorial/vocabulary/vocabulary.h"
 
 #include "tutorial/vocabulary/tutorialaction.h"
