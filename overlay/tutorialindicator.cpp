@@ -100,7 +100,7 @@ void TutorialIndicator::setTargetWindowOffset(
     mTargetOffset = QPoint(x, y);
     const bool nowhere = x == Tutorial::kNoCoordinate && y == Tutorial::kNoCoordinate;
     mArrowVisible = !nowhere && !hideArrow;
-    if (!nowhere && kind == Tutorial::Window_MapEditTreeBox) {
+    if (!nowhere && kind == Tutorial::Window_MapEditTreeBox && mOwner) {
         const QPoint panel = mOwner->getXy(Tutorial::Window_MapEditLeftPanelItem);
         mTargetOffset = QPoint(saturatedSum(x, panel.x()), saturatedSum(y, panel.y()));
     }
