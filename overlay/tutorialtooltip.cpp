@@ -52,7 +52,7 @@ TutorialTooltip::TutorialTooltip(QWidget* parent)
 void TutorialTooltip::setText(const QString& text)
 {
     if (!text.isEmpty())
-        mText->setText(text);
+        mText->setHint(text);
     mText->setVisible(!text.isEmpty());
 }
 

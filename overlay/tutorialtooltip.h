@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <QWidget>
 
-class QTextEdit;
+class HintText;
 class TutorialIndicator;
 
 // The balloon: a transparent window above all others that lets clicks through
@@ -46,5 +46,5 @@ private:
     void drawArrow(QPainter* painter) const;
 
     QPointer<TutorialIndicator> mIndicator;
-    QTextEdit* mText;
+    HintText* mText;
 };

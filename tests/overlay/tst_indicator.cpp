@@ -179,6 +179,23 @@ void tst_Indicator::hintShowsPicturesOutOfFiles()
     QVERIFY(!shows(pipe));
     QVERIFY(!shows(QStringLiteral("file:///dev/zero")));
     QVERIFY(shows(QStringLiteral("file://") + path));
+
+    // A small file unfolds to any number of pixels: one picture may be too many,
+    // or the second of two.
+    const QString large = folder.filePath(QStringLiteral("large.png"));
+    QImage unfolded(20000, 20000, QImage::Format_Mono);
+    unfolded.setColorTable({qRgb(255, 0, 0), qRgb(0, 0, 255)});
+    unfolded.fill(0);
+    QVERIFY(unfolded.save(large));
+    QVERIFY(!shows(large));
+    QByteArray file;
+    QBuffer buffer(&file);
+    QVERIFY(unfolded.copy(0, 0, 4096, 4096).save(&buffer, "png"));
+    const QString data =
+        QStringLiteral("data:image/png;base64,") + QString::fromLatin1(file.toBase64());
+    QVERIFY(shows(data));
+    QVERIFY(!shows(data + QStringLiteral("\" width=1><img src=\"") + path));
+    QVERIFY(shows(path));
 }
 
 void tst_Indicator::iconIsDrawnWithoutAnArrow()
@@ -258,6 +275,7 @@ void tst_Indicator::windowsOutliveTheirOwner()
     TutorialLog log(nullptr, mOwner.data());
     mIndicator->init(true, false);
     mOwner.reset();
+    mIndicator->setTargetWindowOffset(1, 1, Window_MapEditTreeBox, false);
     QTest::mouseClick(button("Next"), Qt::LeftButton);
     button("Next")->activateWindow();
     QTest::qWait(300);
