@@ -3,25 +3,39 @@
 
 #include "editor/hostmessages.h"
 #include "editor/manager.h"
+#include "tutorial/process/platform.h"
 #include "tutorial/process/terminationsignals.h"
+#include "tutorial/process/version.h"
 #include "tutorial/runtime/tutorialmanager.h"
 
 #include <QApplication>
 #include <QPointer>
+#include <QTextStream>
 #include <QWidget>
 
 namespace {
 
-// The display platform that has to be asked for, because overlay windows place
-// themselves in screen coordinates and Wayland does not let them: "xcb" on a
-// Wayland session that offers an X server, otherwise nothing.
-// requested: QT_QPA_PLATFORM; sessionType: XDG_SESSION_TYPE; waylandDisplay,
-// xDisplay: WAYLAND_DISPLAY and DISPLAY. A platform that was requested stays.
-QByteArray platformToAskFor(const QByteArray& requested, const QByteArray& sessionType,
-    const QByteArray& waylandDisplay, const QByteArray& xDisplay)
+constexpr char kHelp[] =
+    "Usage: tutorial [CONNECTION-ID [OPTION ...]]\n"
+    "       tutorial --version | --help\n"
+    "\n"
+    "Floats an arrow, a hint and buttons above the windows of a host, as the host\n"
+    "asks it to through its local server \"vemoCONNECTION-ID\" (20160802-1100 when\n"
+    "no id is given; with an empty one it ends at once). Hosts start this program;\n"
+    "it ends when the host says so, or after 30 seconds without a sign of life.\n"
+    "\n"
+    "Options, behind the connection id:\n"
+    "  -stylesheet FILE  a Qt style sheet for the hint and the buttons\n"
+    "and the others of every Qt program, such as -platform and -style.\n";
+
+// What the only argument asks to be told before the program ends; empty when it
+// asks for nothing.
+QString answerTo(int argc, char** argv)
 {
-    const bool wayland = sessionType == "wayland" || !waylandDisplay.isEmpty();
-    return requested.isEmpty() && wayland && !xDisplay.isEmpty() ? QByteArray("xcb") : QByteArray();
+    const QByteArray argument(argc == 2 ? argv[1] : "");
+    if (argument == "--version")
+        return QStringLiteral("tutorial %1\n").arg(projectVersion());
+    return argument == "--help" ? QString::fromLatin1(kHelp) : QString();
 }
 
 // The manager closes its windows and forgets them; here they are released.
@@ -40,14 +54,16 @@ void deleteWindows()
 
 int runApplication(int argc, char** argv)
 {
-    const QByteArray platform = platformToAskFor(qgetenv("QT_QPA_PLATFORM"),
-        qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"), qgetenv("DISPLAY"));
-    if (!platform.isEmpty())
-        qputenv("QT_QPA_PLATFORM", platform);
+    const QString answer = answerTo(argc, argv);
+    if (!answer.isEmpty()) {
+        QTextStream(stdout) << answer;
+        return 0;
+    }
 
+    preferX11();
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("TUTORIAL"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("0.1"));
+    QCoreApplication::setApplicationVersion(projectVersion());
     QCoreApplication::setOrganizationName(QStringLiteral("SOLVANTA"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("solvanta.example"));
     // The process lives as long as its manager, also when the last window that

@@ -3,6 +3,7 @@
 #include "demo/mainwindow.h"
 #include "demo/tutorialsession.h"
 #include "demo/windowregistry.h"
+#include "tutorial/process/platform.h"
 #include "tutorial/process/terminationsignals.h"
 #ifdef DEMO_AUTOPLAY
 #include "demo/autoplayer.h"
@@ -128,17 +129,6 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     if (arguments->scenario.isEmpty())
         return complain(QStringLiteral("there is no scenario “%1”").arg(scenario), kWrongUsage);
     return {};
-}
-
-// On a Wayland session with an X server at hand, the X server is chosen: what
-// guides through windows must know and set screen positions.
-void preferX11()
-{
-    const bool wayland =
-        qgetenv("XDG_SESSION_TYPE") == "wayland" || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (wayland && !qEnvironmentVariableIsEmpty("DISPLAY")
-        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
 }
 
 // One look on every desktop, with a font of fixed size: the scenarios point

@@ -21,6 +21,7 @@ class tst_Process : public QObject {
 
 private slots:
     void emptyConnectionId();
+    void answersWithoutADisplay();
     void aliveEverySecond();
     void byeEndsIt_data();
     void byeEndsIt();
@@ -35,6 +36,27 @@ void tst_Process::emptyConnectionId()
     QCOMPARE(host.process().exitStatus(), QProcess::NormalExit);
     QCOMPARE(host.process().exitCode(), 0);
     QCOMPARE(host.connections(), 0);
+}
+
+void tst_Process::answersWithoutADisplay()
+{
+    const auto outputOf = [](const QStringList& arguments) {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("DISPLAY"));
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+        program.setProcessEnvironment(environment);
+        program.start(
+            QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial"), arguments);
+        if (!program.waitForFinished(kDeadlineMs) || program.exitStatus() != QProcess::NormalExit
+            || program.exitCode() != 0)
+            return QByteArray("failed");
+        return program.readAllStandardOutput();
+    };
+    QCOMPARE(outputOf({QStringLiteral("--version")}), QByteArray("tutorial " PROJECT_VERSION "\n"));
+    QVERIFY(outputOf({QStringLiteral("--help")}).startsWith("Usage: tutorial "));
+    // Behind a connection id it is nothing but a further argument.
+    QCOMPARE(outputOf({QStringLiteral("id"), QStringLiteral("--version")}), QByteArray("failed"));
 }
 
 void tst_Process::aliveEverySecond()
@@ -96,7 +118,9 @@ void tst_Process::silenceEndsIt()
     TestHost silent;
     QElapsedTimer clock;
     clock.start();
-    QVERIFY(refused.startProgram({TestHost::randomId()}));
+    refused.process().setProcessChannelMode(QProcess::SeparateChannels);
+    const QString nobody = TestHost::randomId();
+    QVERIFY(refused.startProgram({nobody}));
     QVERIFY(deserted.startAndConnect());
     deserted.hangUp();
     QVERIFY(silent.startAndConnect());
@@ -114,6 +138,8 @@ void tst_Process::silenceEndsIt()
             qPrintable(QStringLiteral("refused %1 ms, silent %2 ms").arg(refusedMs).arg(silentMs)));
     }
     QCOMPARE(refused.process().exitCode(), 0);
+    const QByteArray complaint = refused.process().readAllStandardError();
+    QVERIFY2(complaint.count("vemo" + nobody.toLatin1() + " cannot be reached: ") == 1, complaint);
     QCOMPARE(deserted.process().exitCode(), 0);
     QCOMPARE(silent.process().exitCode(), 0);
     QVERIFY(silent.receivedBytes().size() >= 8 * 28);

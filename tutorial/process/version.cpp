@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "tutorial/process/version.h"
+
+QString projectVersion()
+{
+    return QStringLiteral(PROJECT_VERSION);
+}
