@@ -41,6 +41,7 @@ TutorialManager::TutorialManager(QApplication* application) : mApplication(appli
     mSocket->setReadBufferSize(kLargestRead);
     connect(mSocket, SIGNAL(readyRead()), this, SLOT(onReadyRead()));
     connect(mSocket, SIGNAL(connected()), this, SLOT(onConnected()));
+    connect(mSocket, &QLocalSocket::errorOccurred, this, &TutorialManager::onSocketError);
     connect(this, &TutorialManager::received, this, &TutorialManager::onReceived);
     mSocket->connectToServer(QStringLiteral("vemo%1").arg(connectionId), QIODevice::ReadWrite);
     connect(mApplication, SIGNAL(applicationStateChanged(Qt::ApplicationState)), this,

@@ -125,6 +125,8 @@ private:
     using Fields = QVector<QStringView>;
     static constexpr int kUnknownWindowState = 4;
 
+    // A server that cannot be reached is told in the log, and changes nothing.
+    void onSocketError();
     // Handlers of the host's messages. Fields come as they arrived, the name
     // first; a handler that misses a field changes nothing.
     void onStart(const Fields& fields);

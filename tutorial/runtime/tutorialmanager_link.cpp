@@ -99,6 +99,13 @@ void TutorialManager::onConnected()
     QMetaObject::invokeMethod(mSocket, &QLocalSocket::abort, Qt::QueuedConnection);
 }
 
+void TutorialManager::onSocketError()
+{
+    if (!mConnected)
+        qWarning("The server %s cannot be reached: %s.", qUtf8Printable(mSocket->serverName()),
+            qUtf8Printable(mSocket->errorString()));
+}
+
 void TutorialManager::onReadyRead()
 {
     const QByteArray data = mSocket->readAll();
