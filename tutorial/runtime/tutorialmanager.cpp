@@ -58,7 +58,9 @@ TutorialManager::~TutorialManager()
     if (mTimerId != 0)
         killTimer(mTimerId);
     mTimerId = 0;
-    QCoreApplication::quit();
+    // With Qt 6 quit() would first ask every window whether it may be closed,
+    // and an authoring tool with unsaved work would say no.
+    QCoreApplication::exit();
 }
 
 void TutorialManager::init() { }
