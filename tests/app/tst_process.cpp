@@ -86,6 +86,15 @@ void tst_Process::byeEndsIt_data()
                                    "0\0"),
                bytes("0\2bye\2start\0"
                      "0\2start\0")};
+    // A burst ends with what has arrived, however long the reads are.
+    QTest::newRow("after a full read of something else")
+        << QList<QByteArray>{QByteArray(4096, 'x'), bytes("0\2bye\0")};
+    QTest::newRow("behind a packet that is too long")
+        << QList<QByteArray>{"0\2" + QByteArray(17 * 1024 * 1024, 'x')
+               + bytes("\0"
+                       "0\2bye\0")};
+    QTest::newRow("unless it stands behind what is no packet")
+        << QList<QByteArray>{QByteArray(8192, 'x') + bytes("0\2bye\0"), bytes("0\2bye\0")};
     QTest::newRow("over two reads") << QList<QByteArray>{bytes("0\2start\0"
                                                                "0\2b"),
         bytes("ye\0")};
@@ -100,7 +109,7 @@ void tst_Process::byeEndsIt()
         host.sendBytes(bytes);
         // The next "alive" shows that the write before it has been read.
         const int before = host.receivedBytes().size();
-        if (bytes != writes.last())
+        if (&bytes != &writes.last())
             QTRY_VERIFY_WITH_TIMEOUT(host.receivedBytes().size() > before, kDeadlineMs);
     }
     QTRY_VERIFY_WITH_TIMEOUT(hasEnded(&host.process()), kDeadlineMs);

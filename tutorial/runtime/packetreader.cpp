@@ -6,67 +6,81 @@
 namespace {
 
 constexpr char kHostTag = '0';
+constexpr int kTextOffset = 2; // behind the tag and a byte
 constexpr int kShortestPacket = 3; // tag, any byte, zero byte
-constexpr int kShortestRead = 2;
+constexpr int kShortestBurst = 2;
 
 } // namespace
 
-void PacketReader::append(const QByteArray& data, bool continues)
+void PacketReader::append(const QByteArray& data, bool endsBurst)
 {
+    const bool isWholeBurst = endsBurst && !mBurstGoesOn;
+    if (!mBurstGoesOn)
+        mDiscarding = false;
+    mBurstGoesOn = !endsBurst;
+    if (mDiscarding)
+        return;
     if (mSkipping) {
-        const int end = data.indexOf('\0');
+        const int end = int(data.indexOf('\0'));
         if (end < 0)
             return;
         mSkipping = false;
-        append(data.mid(end + 1), continues);
-        return;
-    }
-    if (!mBuffer.isEmpty()) {
+        mBuffer = data.mid(end + 1);
+    } else if (!mBuffer.isEmpty()) {
         mBuffer.append(data);
-        return;
+    } else if (data.size() >= kShortestBurst || !isWholeBurst) {
+        mBuffer = data;
     }
-    if (data.size() < kShortestRead && !continues)
-        return;
-    mBuffer = data;
 }
 
 bool PacketReader::next(QString* text)
 {
     while (mBuffer.size() - mPosition >= kShortestPacket && mBuffer.at(mPosition) == kHostTag) {
-        const int end = mBuffer.indexOf('\0', std::max(mPosition, mScanned));
-        if (end < 0)
+        const Packet packet = takePacket(text);
+        if (packet == Packet::Unfinished)
             break;
-        const int begin = mPosition + 2;
-        int textEnd = end;
-        if (end < begin) {
-            // The zero byte stands where the second byte is skipped unseen: the
-            // text is then what follows, and that is read once more as packets.
-            textEnd = mBuffer.indexOf('\0', begin);
-            if (textEnd < 0)
-                textEnd = mBuffer.size();
-        }
-        mPosition = end + 1;
-        if (textEnd > begin) {
-            *text = QString::fromUtf8(mBuffer.constData() + begin, textEnd - begin);
-            if (!text->isEmpty())
-                return true;
-        }
+        if (packet == Packet::Complete && !text->isEmpty())
+            return true;
     }
-    keepTail();
+    if (!mBuffer.isEmpty())
+        keepTail();
     return false;
+}
+
+PacketReader::Packet PacketReader::takePacket(QString* text)
+{
+    const int size = int(mBuffer.size());
+    const int begin = mPosition + kTextOffset;
+    int textEnd = int(mBuffer.indexOf('\0', std::max(begin, mScanned)));
+    int packetEnd = textEnd;
+    if (mBuffer.at(begin - 1) == '\0') {
+        // The zero byte stands where the second byte is skipped unseen: the text
+        // is then what follows, to the end of the burst if need be, and that is
+        // read once more as packets.
+        packetEnd = begin - 1;
+        if (textEnd < 0 && (!mBurstGoesOn || size - mPosition > mLongestPacket))
+            textEnd = size;
+    }
+    if (textEnd < 0)
+        return Packet::Unfinished;
+    const bool isLost = textEnd - mPosition > mLongestPacket;
+    if (!isLost)
+        *text = QString::fromUtf8(mBuffer.constData() + begin, textEnd - begin);
+    mPosition = packetEnd + 1;
+    return isLost ? Packet::Lost : Packet::Complete;
 }
 
 void PacketReader::keepTail()
 {
     mBuffer.remove(0, mPosition);
-    mScanned = std::max(0, mScanned - mPosition);
     mPosition = 0;
-    const bool unfinished = mBuffer.startsWith(kHostTag) && mBuffer.indexOf('\0', mScanned) < 0;
-    if (unfinished && mBuffer.size() <= kLongestTail) {
-        mScanned = mBuffer.size();
-        return;
-    }
-    mSkipping = unfinished;
-    mBuffer.clear();
-    mScanned = 0;
+    const bool isPacket = mBuffer.startsWith(kHostTag);
+    mDiscarding = !mBuffer.isEmpty() && !isPacket;
+    // Two bytes that end a burst begin no packet when the second is the zero byte.
+    const bool isKept =
+        isPacket && (mBurstGoesOn || mBuffer.size() != kTextOffset || mBuffer.at(1) != '\0');
+    mSkipping = isKept && mBuffer.size() > mLongestPacket;
+    if (!isKept || mSkipping)
+        mBuffer.clear();
+    mScanned = int(mBuffer.size());
 }

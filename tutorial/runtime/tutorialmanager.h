@@ -44,8 +44,8 @@ public:
     void send(const QString& message) override;
     // Handles the bytes of one read, and counts as a sign of life whatever they
     // are. A packet that the read cuts in two is handled with the next one.
-    // continues: whether more than these bytes arrived at once.
-    void handleRead(const QByteArray& data, bool continues = false);
+    // endsBurst: whether no more than these bytes have arrived at once.
+    void handleRead(const QByteArray& data, bool endsBurst = true);
     // Puts a backslash before each double quote and each backslash.
     static QString getEscapedString(const QString& text);
     // Takes such a text back to what it was.
@@ -154,7 +154,6 @@ private:
     int mStateValue = kUnknownWindowState;
     QLocalSocket* mSocket = nullptr;
     PacketReader mPackets;
-    bool mReadWasFull = false; // the last one
     bool mHiddenByHost = false;
     bool mRunning = false;
     bool mApplicationActive = false;

@@ -3,6 +3,7 @@
 
 #include "overlay/tutorialindicator.h"
 #include "tutorial/runtime/peercredentials.h"
+#include "tutorial/runtime/waitingbytes.h"
 
 #include <QLocalSocket>
 #include <QRegularExpression>
@@ -109,15 +110,14 @@ void TutorialManager::onSocketError()
 void TutorialManager::onReadyRead()
 {
     const QByteArray data = mSocket->readAll();
-    const bool continues = mReadWasFull;
-    mReadWasFull = data.size() >= mSocket->readBufferSize();
-    handleRead(data, continues);
+    const bool isFull = data.size() >= mSocket->readBufferSize();
+    handleRead(data, !isFull || !hasWaitingBytes(mSocket->socketDescriptor()));
 }
 
-void TutorialManager::handleRead(const QByteArray& data, bool continues)
+void TutorialManager::handleRead(const QByteArray& data, bool endsBurst)
 {
     mSilenceTicks = 0;
-    mPackets.append(data, continues);
+    mPackets.append(data, endsBurst);
     QString text;
     while (mPackets.next(&text)) {
         const QVector<QStringView> messages = parts(text, QLatin1Char(kMessageSeparator));
