@@ -64,6 +64,7 @@ private slots:
     void shortMessagesChangeNothing();
     void target();
     void hiddenByTheHost();
+    void hiddenWithoutAHost();
 
 private:
     void receive(const QStringList& message);
@@ -324,6 +325,19 @@ void tst_Manager::hiddenByTheHost()
     QVERIFY(!windows<TutorialTooltip>().first()->isVisible());
     receive(fields("state show"));
     QVERIFY(windows<TutorialLog>().first()->isVisible());
+}
+
+void tst_Manager::hiddenWithoutAHost()
+{
+    receive(fields("start"));
+    receive(fields("indicator update 1 2 0 hint 3 0"));
+    sHost->hangUp();
+    QTRY_COMPARE(visibleButtons(), QStringList());
+    // The author goes on, and writes to nobody.
+    mManager->onApplicationStateChanged(Qt::ApplicationActive);
+    mManager->updateIndicator(1, 2, Window_MainWindow, QStringLiteral("hint"), 3, Icon_click);
+    for (QWidget* window : QApplication::topLevelWidgets())
+        QVERIFY(!window->isVisible());
 }
 
 int main(int argc, char** argv)

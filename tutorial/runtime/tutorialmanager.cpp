@@ -42,6 +42,8 @@ TutorialManager::TutorialManager(QApplication* application) : mApplication(appli
     connect(mSocket, SIGNAL(readyRead()), this, SLOT(onReadyRead()));
     connect(mSocket, SIGNAL(connected()), this, SLOT(onConnected()));
     connect(mSocket, &QLocalSocket::errorOccurred, this, &TutorialManager::onSocketError);
+    // Without its host an arrow would point at an empty desktop.
+    connect(mSocket, &QLocalSocket::disconnected, this, &TutorialManager::stop);
     connect(this, &TutorialManager::received, this, &TutorialManager::onReceived);
     mSocket->connectToServer(QStringLiteral("vemo%1").arg(connectionId), QIODevice::ReadWrite);
     connect(mApplication, SIGNAL(applicationStateChanged(Qt::ApplicationState)), this,
@@ -166,7 +168,7 @@ void TutorialManager::updateIndicator(int x, int y, Tutorial::EnumWindowKind win
 {
     send(joined({QStringLiteral("indicator"), QStringLiteral("updateXYFollowWindow"),
         QString::number(x), QString::number(y), QString::number(windowKind)}));
-    if (mIndicator)
+    if (mIndicator && !isHostLost())
         pointIndicator(x, y, windowKind, hint, flags, iconKind);
 }
 

@@ -104,7 +104,8 @@ public:
 
     // Reports the target to the host and points the indicator at it.
     // x, y: offset in the window in pixels, both kNoCoordinate for no target;
-    // hint: plain or rich text; flags: a set of Tutorial::IndicatorFlag.
+    // hint: plain or rich text; flags: a set of Tutorial::IndicatorFlag. Nothing
+    // is shown any more when the host is lost.
     void updateIndicator(int x, int y, Tutorial::EnumWindowKind windowKind, const QString& hint,
         int flags, Tutorial::EnumIconKind iconKind);
 
@@ -127,6 +128,8 @@ private:
 
     // A server that cannot be reached is told in the log, and changes nothing.
     void onSocketError();
+    // Whether the connection stood once and does not any more.
+    bool isHostLost() const;
     // Handlers of the host's messages. Fields come as they arrived, the name
     // first; a handler that misses a field changes nothing.
     void onStart(const Fields& fields);

@@ -55,7 +55,7 @@ int saturated(qint64 value)
 
 void TutorialManager::send(const QString& message)
 {
-    if (!mSocket || !mConnected)
+    if (!mSocket || !mConnected || isHostLost())
         return;
     const bool isBehind = mSocket->bytesToWrite() > kMostUnread;
     if (isBehind && !mHostIsBehind)
@@ -105,6 +105,11 @@ void TutorialManager::onSocketError()
     if (!mConnected)
         qWarning("The server %s cannot be reached: %s.", qUtf8Printable(mSocket->serverName()),
             qUtf8Printable(mSocket->errorString()));
+}
+
+bool TutorialManager::isHostLost() const
+{
+    return mConnected && mSocket && mSocket->state() == QLocalSocket::UnconnectedState;
 }
 
 void TutorialManager::onReadyRead()
