@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/autoplayer.h"
 
-#include "demo/tutorialsession.h"
+#include "hostkit/session.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -12,6 +12,7 @@
 #include <algorithm>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 
@@ -56,15 +57,14 @@ int enough(const QString& comparison, int number)
 
 } // namespace
 
-Autoplayer::Autoplayer(TutorialSession& session, const QString& screenshots, int minutes)
+Autoplayer::Autoplayer(Session& session, const QString& screenshots, int minutes)
     : mSession(session), mScreenshots(screenshots), mPlayMs(minutes * 60000LL)
 {
-    connect(&session, &TutorialSession::stepShown, this, &Autoplayer::onStepShown);
-    connect(&session, &TutorialSession::stepDone, this, &Autoplayer::onStepDone);
-    connect(&session, &TutorialSession::failed, this, &Autoplayer::fail);
+    connect(&session, &Session::stepShown, this, &Autoplayer::onStepShown);
+    connect(&session, &Session::stepDone, this, &Autoplayer::onStepDone);
+    connect(&session, &Session::failed, this, &Autoplayer::fail);
     // The session is done with the round when the next one begins.
-    connect(
-        &session, &TutorialSession::finished, this, &Autoplayer::onFinished, Qt::QueuedConnection);
+    connect(&session, &Session::finished, this, &Autoplayer::onFinished, Qt::QueuedConnection);
     mTimer.setInterval(kTickMs);
     connect(&mTimer, &QTimer::timeout, this, &Autoplayer::tick);
 }
@@ -124,7 +124,7 @@ void Autoplayer::onStepDone(const Step& step)
 void Autoplayer::tick()
 {
     if (mStepTime.hasExpired(kDeadlineMs)) {
-        const ScenarioPlayer& player = mSession.player();
+        const Player& player = mSession.player();
         const QString what = player.isPlaying()
             ? player.step().pathText() + QLatin1Char(' ') + player.step().condition.text
             : QStringLiteral("the tutorial to connect");

@@ -10,9 +10,11 @@
 #include <QString>
 #include <QTimer>
 
-class TutorialSession;
+namespace TutorialHost {
+class Session;
 struct Condition;
 struct Step;
+} // namespace TutorialHost
 
 // Plays the learner: does at the arrow's tip what the step asks for, with real
 // input, and presses the tutorial's own buttons. It knows nothing but what a
@@ -27,7 +29,7 @@ class Autoplayer : public QObject {
 public:
     // screenshots: folder for one picture a step; empty for none. minutes: no
     // round begins later than that, and at least one is played.
-    Autoplayer(TutorialSession& session, const QString& screenshots, int minutes);
+    Autoplayer(TutorialHost::Session& session, const QString& screenshots, int minutes);
 
     // Plays the file. False, with a message, when that cannot be.
     bool start(const QString& path);
@@ -35,8 +37,8 @@ public:
 private:
     bool playRound();
     void onFinished();
-    void onStepShown(const Step& step);
-    void onStepDone(const Step& step);
+    void onStepShown(const TutorialHost::Step& step);
+    void onStepDone(const TutorialHost::Step& step);
     void tick();
     bool arrowHasArrived();
     // The tutorial's own buttons that are on show, from left to right.
@@ -46,11 +48,11 @@ private:
     bool takeScreenshot();
     void act();
     // The keys that follow the click into the field.
-    void enter(const Condition& condition);
-    void clickAnswer(const Step& step);
+    void enter(const TutorialHost::Condition& condition);
+    void clickAnswer(const TutorialHost::Step& step);
     void fail(const QString& reason);
 
-    TutorialSession& mSession;
+    TutorialHost::Session& mSession;
     QString mScreenshots;
     qint64 mPlayMs;
     QString mPath;

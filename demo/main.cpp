@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "demo/authoring.h"
 #include "demo/mainwindow.h"
-#include "demo/tutorialsession.h"
-#include "demo/windowregistry.h"
+#include "hostkit/authoring.h"
+#include "hostkit/session.h"
+#include "hostkit/windows/windowregistry.h"
 #include "tutorial/process/platform.h"
 #include "tutorial/process/terminationsignals.h"
 #ifdef DEMO_AUTOPLAY
@@ -15,6 +15,8 @@
 #include <QLocale>
 #include <QTextStream>
 #include <QTranslator>
+
+using namespace TutorialHost;
 
 namespace {
 
@@ -183,19 +185,18 @@ int main(int argc, char** argv)
 
     WindowRegistry registry;
     MainWindow window(registry);
-    TutorialSession session(program, registry);
-    QObject::connect(
-        &session, &TutorialSession::presetDataRequested, &window, [&](const QString& name) {
-            if (!window.loadPreset(name))
-                window.showNotice(MainWindow::tr("There is no data “%1”.").arg(name));
-        });
+    Session session(program, registry);
+    QObject::connect(&session, &Session::presetDataRequested, &window, [&](const QString& name) {
+        if (!window.loadPreset(name))
+            window.showNotice(MainWindow::tr("There is no data “%1”.").arg(name));
+    });
     const auto report = [&](const QString& line) {
         tell(line);
         window.showNotice(line);
     };
-    for (const auto text : {&TutorialSession::notice, &TutorialSession::failed})
+    for (const auto text : {&Session::notice, &Session::failed})
         QObject::connect(&session, text, &window, report);
-    QObject::connect(&session, &TutorialSession::finished, &window,
+    QObject::connect(&session, &Session::finished, &window,
         [&] { window.showNotice(MainWindow::tr("You have finished the tutorial.")); });
     QObject::connect(&window, &MainWindow::tutorialRequested, &session,
         [&](const QString& scenario) { session.play(scenarioPath(scenario)); });

@@ -2,7 +2,7 @@
 #include "demo/mainwindow.h"
 
 #include "demo/artwork.h"
-#include "demo/windowregistry.h"
+#include "hostkit/windows/windowregistry.h"
 
 #include <QActionGroup>
 #include <QHBoxLayout>
@@ -12,6 +12,7 @@
 #include <QToolBar>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 

@@ -15,7 +15,9 @@
 #include <QTreeWidget>
 #include <QUndoStack>
 
+namespace TutorialHost {
 class WindowRegistry;
+} // namespace TutorialHost
 
 // The small map editor that the tutorials explain. Its actions carry their
 // names of the host-action list as object names.
@@ -24,7 +26,7 @@ class MainWindow : public QMainWindow {
 
 public:
     // registry: gets to know every window; outlives this one.
-    explicit MainWindow(WindowRegistry& registry);
+    explicit MainWindow(TutorialHost::WindowRegistry& registry);
 
     // Loads the data of this name; false when there is none.
     bool loadPreset(const QString& name);
@@ -88,7 +90,7 @@ private:
     void openNewTutorial();
     void openEditTutorial();
 
-    WindowRegistry& mRegistry;
+    TutorialHost::WindowRegistry& mRegistry;
     Project mProject;
     int mMapIndex = 0;
     int mZoom = 100;

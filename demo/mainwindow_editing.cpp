@@ -2,7 +2,7 @@
 #include "demo/artwork.h"
 #include "demo/databasedialog.h"
 #include "demo/mainwindow.h"
-#include "demo/windowregistry.h"
+#include "hostkit/windows/windowregistry.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -15,6 +15,7 @@
 #include <iterator>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 

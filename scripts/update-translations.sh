@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Brings demo/translations/*.ts up to date with the texts of the demo's sources
-# and scenarios. A text that is gone stays, marked "vanished", in case it comes
+# Brings demo/translations/*.ts up to date with the texts of the demo's and the
+# kit's sources and of the scenarios. A text that is gone stays, marked "vanished", in case it comes
 # back.
 set -eu
 cd "$(dirname "$0")/.."
@@ -17,4 +17,4 @@ if [ -n "$complaints" ]; then
   exit 1
 fi
 
-lupdate -I . -extensions cpp,h,js -locations none demo -ts demo/translations/*.ts
+lupdate -I . -extensions cpp,h,js -locations none demo hostkit -ts demo/translations/*.ts

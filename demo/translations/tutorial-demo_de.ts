@@ -2,48 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>Authoring</name>
-    <message>
-        <source>The condition is “%1”.</source>
-        <translation>Die Bedingung ist „%1“.</translation>
-    </message>
-    <message>
-        <source>The point is %1, %2.</source>
-        <translation>Der Punkt ist %1, %2.</translation>
-    </message>
-    <message>
-        <source>No point was picked.</source>
-        <translation>Es wurde kein Punkt gewählt.</translation>
-    </message>
-    <message>
-        <source>No tutorial is being edited.</source>
-        <translation>Es wird keine Einführung bearbeitet.</translation>
-    </message>
-    <message>
-        <source>Do now what the step is to wait for.</source>
-        <translation>Tun Sie jetzt, worauf der Schritt warten soll.</translation>
-    </message>
-    <message>
-        <source>Click the point that the step shows; Escape leaves it as it is.</source>
-        <translation>Klicken Sie auf den Punkt, den der Schritt zeigt; Escape lässt ihn, wie er ist.</translation>
-    </message>
-    <message>
-        <source>screen</source>
-        <translation>Bildschirm</translation>
-    </message>
-</context>
-<context>
-    <name>Condition</name>
-    <message>
-        <source>unknown condition “%1”</source>
-        <translation>unbekannte Bedingung „%1“</translation>
-    </message>
-    <message>
-        <source>wrong parameters in “%1”</source>
-        <translation>falsche Parameter in „%1“</translation>
-    </message>
-</context>
-<context>
     <name>DatabaseDialog</name>
     <message>
         <source>Database</source>
@@ -205,29 +163,6 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
-    </message>
-</context>
-<context>
-    <name>HostLink</name>
-    <message>
-        <source>The tutorial “%1” could not be started: %2</source>
-        <translation>Die Einführung „%1“ ließ sich nicht starten: %2</translation>
-    </message>
-    <message>
-        <source>The tutorial has ended unexpectedly.</source>
-        <translation>Die Einführung wurde unerwartet beendet.</translation>
-    </message>
-    <message>
-        <source>The tutorial has not connected.</source>
-        <translation>Die Einführung hat sich nicht verbunden.</translation>
-    </message>
-    <message>
-        <source>The tutorial&apos;s server could not be opened: %1</source>
-        <translation>Der Server für die Einführung ließ sich nicht öffnen: %1</translation>
-    </message>
-    <message>
-        <source>The tutorial has left the link.</source>
-        <translation>Die Einführung hat die Verbindung getrennt.</translation>
     </message>
 </context>
 <context>
@@ -658,14 +593,72 @@
     </message>
 </context>
 <context>
-    <name>Scenario</name>
+    <name>TutorialHost::Authoring</name>
     <message>
-        <source>unknown %1 “%2”</source>
-        <translation>%1 „%2“ ist unbekannt</translation>
+        <source>The condition is “%1”.</source>
+        <translation>Die Bedingung ist „%1“.</translation>
+    </message>
+    <message>
+        <source>The point is %1, %2.</source>
+        <translation>Der Punkt ist %1, %2.</translation>
+    </message>
+    <message>
+        <source>No point was picked.</source>
+        <translation>Es wurde kein Punkt gewählt.</translation>
+    </message>
+    <message>
+        <source>No tutorial is being edited.</source>
+        <translation>Es wird keine Einführung bearbeitet.</translation>
+    </message>
+    <message>
+        <source>Do now what the step is to wait for.</source>
+        <translation>Tun Sie jetzt, worauf der Schritt warten soll.</translation>
+    </message>
+    <message>
+        <source>Click the point that the step shows; Escape leaves it as it is.</source>
+        <translation>Klicken Sie auf den Punkt, den der Schritt zeigt; Escape lässt ihn, wie er ist.</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>Bildschirm</translation>
     </message>
 </context>
 <context>
-    <name>ScenarioPlayer</name>
+    <name>TutorialHost::Condition</name>
+    <message>
+        <source>unknown condition “%1”</source>
+        <translation>unbekannte Bedingung „%1“</translation>
+    </message>
+    <message>
+        <source>wrong parameters in “%1”</source>
+        <translation>falsche Parameter in „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialHost::Link</name>
+    <message>
+        <source>The tutorial “%1” could not be started: %2</source>
+        <translation>Die Einführung „%1“ ließ sich nicht starten: %2</translation>
+    </message>
+    <message>
+        <source>The tutorial has ended unexpectedly.</source>
+        <translation>Die Einführung wurde unerwartet beendet.</translation>
+    </message>
+    <message>
+        <source>The tutorial has not connected.</source>
+        <translation>Die Einführung hat sich nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>The tutorial&apos;s server could not be opened: %1</source>
+        <translation>Der Server für die Einführung ließ sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>The tutorial has left the link.</source>
+        <translation>Die Einführung hat die Verbindung getrennt.</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialHost::Player</name>
     <message>
         <source>Step %1 waits for the window “%2”.</source>
         <translation>Schritt %1 wartet auf das Fenster „%2“.</translation>
@@ -684,7 +677,14 @@
     </message>
 </context>
 <context>
-    <name>TutorialSession</name>
+    <name>TutorialHost::Scenario</name>
+    <message>
+        <source>unknown %1 “%2”</source>
+        <translation>%1 „%2“ ist unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialHost::Session</name>
     <message>
         <source>There is no scenario to play in “%1”.</source>
         <translation>In „%1“ gibt es kein Szenario zu spielen.</translation>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "demo/mainwindow.h"
-#include "demo/windowregistry.h"
+#include "hostkit/windows/windowregistry.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -9,6 +9,7 @@
 #include <QtTest>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "demo/hint.h"
-#include "demo/scenario.h"
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/scenariowriter.h"
+#include "hostkit/core/hinttext.h"
+#include "hostkit/core/scenario.h"
 
 #include <QTranslator>
 #include <QtTest>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 

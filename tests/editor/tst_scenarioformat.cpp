@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "demo/scenario.h"
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/scenariowriter.h"
+#include "hostkit/core/scenario.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -47,7 +47,7 @@ void tst_ScenarioFormat::examples()
         const QJsonArray steps = readScenario(file, &errors);
         QCOMPARE(errors, QStringList());
         QCOMPARE(scenarioFileText(scenarioJson(steps)), file);
-        for (const Step& step : Scenario::fromJson(steps).steps) {
+        for (const TutorialHost::Step& step : TutorialHost::Scenario::fromJson(steps).steps) {
             QCOMPARE(step.fault, QString());
             kinds << step.condition.kind;
         }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "demo/hint.h"
+#include "hostkit/core/hinttext.h"
 
 #include "editor/scenario/translationexpression.h"
 
 #include <QCoreApplication>
 
-QString hintText(const QString& hint, const QString& context)
+using namespace TutorialHost;
+QString TutorialHost::hintText(const QString& hint, const QString& context)
 {
     TutorialEditor::TranslationExpression expression;
     if (!TutorialEditor::parseTranslationExpression(hint, &expression))

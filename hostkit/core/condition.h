@@ -9,6 +9,8 @@
 
 #include <optional>
 
+namespace TutorialHost {
+
 // The condition that ends a step, as scenario files hold it: the kind's name
 // and its parameters, separated by commas.
 //
@@ -90,3 +92,5 @@ bool isAboutNothing(
     const Condition& condition, Tutorial::EnumWindowKind followed, const HostState& state);
 // Whether the condition is one about an event, and this event meets it.
 bool isMetBy(const Condition& condition, Tutorial::EnumWindowKind followed, const HostEvent& event);
+
+} // namespace TutorialHost

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/condition.h"
+#include "hostkit/core/condition.h"
 
 #include <QObject>
 #include <QTimer>
 
 #include <optional>
+
+namespace TutorialHost {
 
 // Turns the author's next action in the host into the condition that waits for
 // it.
@@ -34,3 +36,5 @@ private:
     std::optional<Condition> mBest;
     QTimer mQuietTimer;
 };
+
+} // namespace TutorialHost

@@ -10,6 +10,8 @@
 #include <QSize>
 #include <QWidget>
 
+namespace TutorialHost {
+
 // Knows which of the host's windows are open, in which order, and where they
 // stand. A window is any widget that was added under its kind: a dialog, a
 // menu, or a panel inside of the main window.
@@ -68,3 +70,5 @@ private:
     QHash<Tutorial::EnumWindowKind, QPoint> mPositions;
     QList<Tutorial::EnumWindowKind> mStack;
 };
+
+} // namespace TutorialHost

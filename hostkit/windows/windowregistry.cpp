@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "demo/windowregistry.h"
+#include "hostkit/windows/windowregistry.h"
 
 #include <QDialog>
 #include <QEvent>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 void WindowRegistry::add(EnumWindowKind kind, QWidget* window)
 {

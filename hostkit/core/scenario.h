@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/condition.h"
+#include "hostkit/core/condition.h"
 #include "tutorial/vocabulary/vocabulary.h"
 
 #include <QHash>
@@ -12,6 +12,8 @@
 #include <QVector>
 
 #include <optional>
+
+namespace TutorialHost {
 
 // One step of a scenario, read from its JSON.
 struct Step {
@@ -54,3 +56,5 @@ struct Scenario {
     // group that does. The first of several steps with one label wins.
     QHash<QString, int> labels;
 };
+
+} // namespace TutorialHost

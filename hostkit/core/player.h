@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/condition.h"
-#include "demo/scenario.h"
+#include "hostkit/core/condition.h"
+#include "hostkit/core/scenario.h"
 
 #include <QObject>
 #include <QTimer>
 #include <QVector>
+
+namespace TutorialHost {
 
 // Plays a scenario: one step after the other, each until its condition holds.
 //
@@ -17,12 +19,12 @@
 //
 // What the host reports is judged on the next turn of the event loop, never
 // inside the call: a report may come from the middle of a dialog's closing.
-class ScenarioPlayer : public QObject {
+class Player : public QObject {
     Q_OBJECT
 
 public:
     // state: the host as it is; outlives the player.
-    explicit ScenarioPlayer(const HostState& state, QObject* parent = nullptr);
+    explicit Player(const HostState& state, QObject* parent = nullptr);
 
     bool isPlaying() const { return mCurrent >= 0; }
     // The step that is played; only while playing.
@@ -73,3 +75,5 @@ private:
     QTimer mWaitTimer;
     QTimer mPatienceTimer;
 };
+
+} // namespace TutorialHost

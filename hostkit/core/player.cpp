@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "demo/scenarioplayer.h"
+#include "hostkit/core/player.h"
 
 #include "tutorial/vocabulary/tutorialaction.h"
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 
@@ -15,11 +16,10 @@ constexpr int kPatienceMs = 2000;
 
 } // namespace
 
-ScenarioPlayer::ScenarioPlayer(const HostState& state, QObject* parent)
-    : QObject(parent), mState(state)
+Player::Player(const HostState& state, QObject* parent) : QObject(parent), mState(state)
 {
     mJudgeTimer.setSingleShot(true);
-    connect(&mJudgeTimer, &QTimer::timeout, this, &ScenarioPlayer::judge);
+    connect(&mJudgeTimer, &QTimer::timeout, this, &Player::judge);
     mWaitTimer.setSingleShot(true);
     connect(&mWaitTimer, &QTimer::timeout, this, [this] {
         mMet = true;
@@ -33,14 +33,14 @@ ScenarioPlayer::ScenarioPlayer(const HostState& state, QObject* parent)
     });
 }
 
-void ScenarioPlayer::start(const Scenario& scenario, int first)
+void Player::start(const Scenario& scenario, int first)
 {
     stop();
     mScenario = scenario;
     enter(first);
 }
 
-void ScenarioPlayer::stop()
+void Player::stop()
 {
     mCurrent = -1;
     mHistory.clear();
@@ -49,7 +49,7 @@ void ScenarioPlayer::stop()
         timer->stop();
 }
 
-void ScenarioPlayer::onEvent(const HostEvent& event)
+void Player::onEvent(const HostEvent& event)
 {
     if (!isPlaying() || !isMetBy(step().condition, step().window, event))
         return;
@@ -57,13 +57,13 @@ void ScenarioPlayer::onEvent(const HostEvent& event)
     mJudgeTimer.start(0);
 }
 
-void ScenarioPlayer::onStateChanged()
+void Player::onStateChanged()
 {
     if (isPlaying() && !mJudgeTimer.isActive())
         mJudgeTimer.start(kSettleMs);
 }
 
-void ScenarioPlayer::onAnswer(const QString& answer)
+void Player::onAnswer(const QString& answer)
 {
     if (!isPlaying() || !isShown())
         return;
@@ -76,13 +76,13 @@ void ScenarioPlayer::onAnswer(const QString& answer)
     mJudgeTimer.start(0);
 }
 
-bool ScenarioPlayer::windowIsOpen(const Step& step) const
+bool Player::windowIsOpen(const Step& step) const
 {
     return step.window == WindowKindCount
         || mState.windowState(step.window) == QLatin1String("open");
 }
 
-void ScenarioPlayer::enter(int index)
+void Player::enter(int index)
 {
     mMet = false;
     mChosenLabel.clear();
@@ -103,7 +103,7 @@ void ScenarioPlayer::enter(int index)
     mJudgeTimer.start(kSettleMs);
 }
 
-void ScenarioPlayer::judge()
+void Player::judge()
 {
     if (mMet || isMet(step().condition, step().window, mState))
         finishStep();
@@ -113,7 +113,7 @@ void ScenarioPlayer::judge()
         show();
 }
 
-void ScenarioPlayer::show()
+void Player::show()
 {
     mPatienceTimer.stop();
     mShown = true;
@@ -125,7 +125,7 @@ void ScenarioPlayer::show()
     emit stepShown(step());
 }
 
-void ScenarioPlayer::goBack()
+void Player::goBack()
 {
     while (!mHistory.isEmpty() && !windowIsOpen(mScenario.steps.at(mHistory.last())))
         mHistory.removeLast();
@@ -140,7 +140,7 @@ void ScenarioPlayer::goBack()
     judge();
 }
 
-void ScenarioPlayer::finishStep()
+void Player::finishStep()
 {
     const int next = indexAfterStep();
     mHistory << mCurrent;
@@ -148,7 +148,7 @@ void ScenarioPlayer::finishStep()
     enter(next);
 }
 
-int ScenarioPlayer::indexAfterStep()
+int Player::indexAfterStep()
 {
     const int next = mCurrent + 1;
     if (mChosenLabel.isEmpty())

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "demo/condition.h"
+#include "hostkit/core/condition.h"
 
 #include <QCoreApplication>
 #include <QHash>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 
@@ -86,13 +87,16 @@ Condition Condition::fromText(const QString& text)
 QString Condition::fault() const
 {
     if (kind == ConditionKindCount)
-        return QCoreApplication::translate("Condition", "unknown condition “%1”").arg(text);
+        return QCoreApplication::translate("TutorialHost::Condition", "unknown condition “%1”")
+            .arg(text);
     if (!parametersAreSound(*this))
-        return QCoreApplication::translate("Condition", "wrong parameters in “%1”").arg(text);
+        return QCoreApplication::translate("TutorialHost::Condition", "wrong parameters in “%1”")
+            .arg(text);
     return {};
 }
 
-bool isMet(const Condition& condition, EnumWindowKind followed, const HostState& state)
+bool TutorialHost::isMet(
+    const Condition& condition, EnumWindowKind followed, const HostState& state)
 {
     if (!parametersAreSound(condition))
         return false;
@@ -116,14 +120,16 @@ bool isMet(const Condition& condition, EnumWindowKind followed, const HostState&
     }
 }
 
-bool isAboutNothing(const Condition& condition, EnumWindowKind followed, const HostState& state)
+bool TutorialHost::isAboutNothing(
+    const Condition& condition, EnumWindowKind followed, const HostState& state)
 {
     const QString name = condition.parameter(0);
     return (condition.kind == Condition_comboBox && !state.comboBoxRow(followed, name))
         || (condition.kind == Condition_checked && !state.isChecked(followed, name));
 }
 
-bool isMetBy(const Condition& condition, EnumWindowKind followed, const HostEvent& event)
+bool TutorialHost::isMetBy(
+    const Condition& condition, EnumWindowKind followed, const HostEvent& event)
 {
     if (condition.kind != event.kind || !parametersAreSound(condition))
         return false;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/condition.h"
+#include "hostkit/core/condition.h"
 
 #include <QHash>
 
 // A host whose state is what the test says.
-struct FakeState : HostState {
+struct FakeState : TutorialHost::HostState {
     QString windowState(Tutorial::EnumWindowKind window) const override
     {
         return states.value(window, QStringLiteral("close"));

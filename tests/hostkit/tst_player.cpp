@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "demo/scenarioplayer.h"
-#include "tests/demo/fakestate.h"
+#include "hostkit/core/player.h"
+#include "tests/hostkit/fakestate.h"
 
 #include <QJsonDocument>
 #include <QtTest>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 // A player over a host of the test's making. What it does is kept as text:
 // "[0]" for a step that is shown, "data NAME", "notice", "end".
-class tst_ScenarioPlayer : public QObject {
+class tst_Player : public QObject {
     Q_OBJECT
 
 private slots:
@@ -28,38 +29,38 @@ private:
     bool did(const char* text);
 
     FakeState mState;
-    ScenarioPlayer* mPlayer = nullptr;
+    Player* mPlayer = nullptr;
     QStringList mDone;
 };
 
-void tst_ScenarioPlayer::init()
+void tst_Player::init()
 {
     mState = {};
     mState.states.insert(Window_MainWindow, QStringLiteral("open"));
     mDone.clear();
     delete mPlayer;
-    mPlayer = new ScenarioPlayer(mState, this);
-    connect(mPlayer, &ScenarioPlayer::stepShown, this,
-        [this](const Step& step) { mDone << step.pathText(); });
-    connect(mPlayer, &ScenarioPlayer::presetDataRequested, this,
+    mPlayer = new Player(mState, this);
+    connect(
+        mPlayer, &Player::stepShown, this, [this](const Step& step) { mDone << step.pathText(); });
+    connect(mPlayer, &Player::presetDataRequested, this,
         [this](const QString& name) { mDone << QStringLiteral("data ") + name; });
-    connect(mPlayer, &ScenarioPlayer::notice, this, [this] { mDone << QStringLiteral("notice"); });
-    connect(mPlayer, &ScenarioPlayer::finished, this, [this] { mDone << QStringLiteral("end"); });
+    connect(mPlayer, &Player::notice, this, [this] { mDone << QStringLiteral("notice"); });
+    connect(mPlayer, &Player::finished, this, [this] { mDone << QStringLiteral("end"); });
 }
 
-void tst_ScenarioPlayer::play(const char* json, const QList<int>& from)
+void tst_Player::play(const char* json, const QList<int>& from)
 {
     const Scenario played = Scenario::fromJson(QJsonDocument::fromJson(json).array());
     mPlayer->start(played, played.indexOf(from));
 }
 
-void tst_ScenarioPlayer::open(EnumWindowKind kind, const char* state)
+void tst_Player::open(EnumWindowKind kind, const char* state)
 {
     mState.states.insert(kind, QLatin1String(state));
     mPlayer->onStateChanged();
 }
 
-bool tst_ScenarioPlayer::did(const char* text)
+bool tst_Player::did(const char* text)
 {
     const QStringList expected = QString::fromLatin1(text).split(QLatin1String("; "));
     const bool same =
@@ -70,7 +71,7 @@ bool tst_ScenarioPlayer::did(const char* text)
     return same;
 }
 
-void tst_ScenarioPlayer::branches()
+void tst_Player::branches()
 {
     play(R"([{"condition": "yesNo,group,"},
              {"condition": "yesNo,nowhere,end"},
@@ -84,7 +85,7 @@ void tst_ScenarioPlayer::branches()
     QVERIFY(did("[3]"));
 }
 
-void tst_ScenarioPlayer::waitsForTheWindow()
+void tst_Player::waitsForTheWindow()
 {
     play(R"([{"condition": "click", "followWindow": "MainWindow"},
              {"condition": "click", "followWindow": "Options"}])");
@@ -97,7 +98,7 @@ void tst_ScenarioPlayer::waitsForTheWindow()
     QVERIFY(did("[1]"));
 }
 
-void tst_ScenarioPlayer::goesBackWhenTheWindowIsGone()
+void tst_Player::goesBackWhenTheWindowIsGone()
 {
     play(R"([{"condition": "click", "command": "presetData,a", "followWindow": "MainWindow"},
              {"condition": "action,Options", "command": "presetData,b", "followWindow": "MainWindow"},
@@ -117,7 +118,7 @@ void tst_ScenarioPlayer::goesBackWhenTheWindowIsGone()
     QVERIFY(did("[1]"));
 }
 
-void tst_ScenarioPlayer::saysWhatCannotBeMet()
+void tst_Player::saysWhatCannotBeMet()
 {
     play(R"([{"condition": "fly,high"}, {"condition": "windowState,Nowhere,close"},
             {"condition": "wait,-1"}, {"condition": "comboBox,nobody,1"}])");
@@ -130,7 +131,7 @@ void tst_ScenarioPlayer::saysWhatCannotBeMet()
     QVERIFY(did("notice; [3]"));
 }
 
-void tst_ScenarioPlayer::startsInTheMiddle()
+void tst_Player::startsInTheMiddle()
 {
     const char json[] = R"([{"condition": "click"}, {"hint": "g", "group":
         [{"condition": "click"}, {"condition": "click"}]}])";
@@ -140,5 +141,5 @@ void tst_ScenarioPlayer::startsInTheMiddle()
     QVERIFY(did("[1,0]"));
 }
 
-QTEST_GUILESS_MAIN(tst_ScenarioPlayer)
-#include "tst_scenarioplayer.moc"
+QTEST_GUILESS_MAIN(tst_Player)
+#include "tst_player.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/hostpacket.h"
+#include "hostkit/core/packet.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -10,16 +10,18 @@
 #include <QProcess>
 #include <QTimer>
 
+namespace TutorialHost {
+
 // The host's end of the link: starts the tutorial as a process of its own with
 // a fresh connection id, serves it through a local server that only this user
 // may connect to, keeps it alive, and sees it off with "bye".
-class HostLink : public QObject {
+class Link : public QObject {
     Q_OBJECT
 
 public:
     // program: path or name of the tutorial's executable.
-    explicit HostLink(const QString& program, QObject* parent = nullptr);
-    ~HostLink() override;
+    explicit Link(const QString& program, QObject* parent = nullptr);
+    ~Link() override;
 
     bool isConnected() const { return mSocket; }
     // Process id of the running tutorial; 0 when there is none.
@@ -48,7 +50,9 @@ private:
     QLocalServer mServer;
     QProcess mProcess;
     QPointer<QLocalSocket> mSocket;
-    HostPacket::Decoder mDecoder;
+    PacketDecoder mDecoder;
     QTimer mAliveTimer;
     QTimer mConnectTimer;
 };
+
+} // namespace TutorialHost

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "demo/tutorialsession.h"
+#include "hostkit/session.h"
 
-#include "demo/hint.h"
-#include "demo/windowregistry.h"
 #include "editor/scenario/scenarioreader.h"
+#include "hostkit/core/hinttext.h"
+#include "hostkit/windows/windowregistry.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -12,6 +12,7 @@
 #include <utility>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 
@@ -43,7 +44,7 @@ QStringList xyMessage(const QPoint& point)
 
 } // namespace
 
-TutorialSession::TutorialSession(const QString& program, WindowRegistry& registry, QObject* parent)
+Session::Session(const QString& program, WindowRegistry& registry, QObject* parent)
     : QObject(parent), mRegistry(registry), mObserver(registry), mPlayer(mObserver), mLink(program)
 {
     connect(&registry, &WindowRegistry::pushed, this,
@@ -67,28 +68,27 @@ TutorialSession::TutorialSession(const QString& program, WindowRegistry& registr
             setMinimized(on);
     });
 
-    connect(&mObserver, &HostObserver::happened, &mPlayer, &ScenarioPlayer::onEvent);
-    connect(&mObserver, &HostObserver::changed, &mPlayer, &ScenarioPlayer::onStateChanged);
+    connect(&mObserver, &ControlObserver::happened, &mPlayer, &Player::onEvent);
+    connect(&mObserver, &ControlObserver::changed, &mPlayer, &Player::onStateChanged);
 
-    connect(&mPlayer, &ScenarioPlayer::presetDataRequested, this,
-        &TutorialSession::presetDataRequested);
-    connect(&mPlayer, &ScenarioPlayer::stepShown, this, [this](const Step& step) {
+    connect(&mPlayer, &Player::presetDataRequested, this, &Session::presetDataRequested);
+    connect(&mPlayer, &Player::stepShown, this, [this](const Step& step) {
         sendStep(step);
         emit stepShown(step);
     });
-    connect(&mPlayer, &ScenarioPlayer::stepDone, this, &TutorialSession::stepDone);
-    connect(&mPlayer, &ScenarioPlayer::notice, this, &TutorialSession::notice);
-    connect(&mPlayer, &ScenarioPlayer::finished, this, [this] {
+    connect(&mPlayer, &Player::stepDone, this, &Session::stepDone);
+    connect(&mPlayer, &Player::notice, this, &Session::notice);
+    connect(&mPlayer, &Player::finished, this, [this] {
         stop();
         emit finished();
     });
 
-    connect(&mLink, &HostLink::connected, this, [this] {
+    connect(&mLink, &Link::connected, this, [this] {
         if (const auto task = std::exchange(mWhenConnected, nullptr))
             task();
     });
-    connect(&mLink, &HostLink::received, this, &TutorialSession::onReceived);
-    connect(&mLink, &HostLink::failed, this, [this](const QString& reason) {
+    connect(&mLink, &Link::received, this, &Session::onReceived);
+    connect(&mLink, &Link::failed, this, [this](const QString& reason) {
         mPlayer.stop();
         mPreview.reset();
         mStarted = false;
@@ -104,10 +104,10 @@ TutorialSession::TutorialSession(const QString& program, WindowRegistry& registr
         sendUnlessIdle({QStringLiteral("state"), QStringLiteral("hide")});
     });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
-        &TutorialSession::onApplicationStateChanged);
+        &Session::onApplicationStateChanged);
 }
 
-bool TutorialSession::play(const QString& path, const QList<int>& first)
+bool Session::play(const QString& path, const QList<int>& first)
 {
     stop();
     QJsonArray steps;
@@ -127,7 +127,7 @@ bool TutorialSession::play(const QString& path, const QList<int>& first)
     return true;
 }
 
-void TutorialSession::stop()
+void Session::stop()
 {
     mPlayer.stop();
     mPreview.reset();
@@ -135,19 +135,19 @@ void TutorialSession::stop()
     mStarted = false;
 }
 
-void TutorialSession::show(const Step& step)
+void Session::show(const Step& step)
 {
     mPreview = step;
     sendStep(step);
 }
 
-void TutorialSession::pointAt(const Step& step)
+void Session::pointAt(const Step& step)
 {
     mPreview = step;
     sendPoint(step);
 }
 
-void TutorialSession::whenConnected(const std::function<void()>& task)
+void Session::whenConnected(const std::function<void()>& task)
 {
     if (mLink.isConnected()) {
         task();
@@ -157,7 +157,7 @@ void TutorialSession::whenConnected(const std::function<void()>& task)
     mLink.open();
 }
 
-QPoint TutorialSession::originOf(EnumWindowKind window) const
+QPoint Session::originOf(EnumWindowKind window) const
 {
     if (window == WindowKindCount)
         return {};
@@ -168,7 +168,7 @@ QPoint TutorialSession::originOf(EnumWindowKind window) const
     return positions.value(origin, positions.value(Window_MainWindow));
 }
 
-QPoint TutorialSession::targetOf(const Step& step) const
+QPoint Session::targetOf(const Step& step) const
 {
     if (!step.point) {
         const QWidget* window = mRegistry.window(step.window);
@@ -179,12 +179,12 @@ QPoint TutorialSession::targetOf(const Step& step) const
     return originOf(step.window) + *step.point;
 }
 
-QPoint TutorialSession::sentPointOf(const Step& step) const
+QPoint Session::sentPointOf(const Step& step) const
 {
     return targetOf(step) - (step.point ? kTip : kHintMiddle);
 }
 
-void TutorialSession::onReceived(const QStringList& fields)
+void Session::onReceived(const QStringList& fields)
 {
     static const QStringList kAnswers = {
         QStringLiteral("next"), QStringLiteral("yes"), QStringLiteral("no")};
@@ -197,7 +197,7 @@ void TutorialSession::onReceived(const QStringList& fields)
         activate();
 }
 
-void TutorialSession::onApplicationStateChanged(Qt::ApplicationState state)
+void Session::onApplicationStateChanged(Qt::ApplicationState state)
 {
     if (state == Qt::ApplicationActive) {
         mHideTimer.stop();
@@ -209,7 +209,7 @@ void TutorialSession::onApplicationStateChanged(Qt::ApplicationState state)
         activate();
 }
 
-void TutorialSession::setMinimized(bool on)
+void Session::setMinimized(bool on)
 {
     if (mMinimized == on)
         return;
@@ -227,7 +227,7 @@ void TutorialSession::setMinimized(bool on)
     }
 }
 
-void TutorialSession::sendStep(const Step& step)
+void Session::sendStep(const Step& step)
 {
     if (mMinimized)
         return;
@@ -243,18 +243,18 @@ void TutorialSession::sendStep(const Step& step)
     mLink.send(messages);
 }
 
-void TutorialSession::sendPoint(const Step& step)
+void Session::sendPoint(const Step& step)
 {
     if (!mMinimized)
         mLink.send(startMessages() << xyMessage(sentPointOf(step)));
 }
 
-std::optional<Step> TutorialSession::stepOnShow() const
+std::optional<Step> Session::stepOnShow() const
 {
     return mPlayer.isPlaying() && mPlayer.isShown() ? mPlayer.step() : mPreview;
 }
 
-QVector<QStringList> TutorialSession::startMessages()
+QVector<QStringList> Session::startMessages()
 {
     if (mStarted)
         return {};
@@ -278,13 +278,13 @@ QVector<QStringList> TutorialSession::startMessages()
     return messages;
 }
 
-void TutorialSession::sendUnlessIdle(const QStringList& message)
+void Session::sendUnlessIdle(const QStringList& message)
 {
     if (mStarted)
         mLink.send({message});
 }
 
-void TutorialSession::activate()
+void Session::activate()
 {
     const QList<EnumWindowKind>& stack = mRegistry.stack();
     for (int i = stack.size() - 1; i >= 0; --i) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "demo/hostobserver.h"
+#include "hostkit/windows/controlobserver.h"
 
-#include "demo/windowregistry.h"
+#include "hostkit/windows/windowregistry.h"
 #include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QAbstractItemView>
@@ -17,11 +17,12 @@
 #include <QTimer>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 
 // Marks a control that is watched already: a window may open more than once.
-const char kWatched[] = "hostObserverWatches";
+const char kWatched[] = "tutorialHostWatches";
 
 template <typename Control, typename Watch>
 void watchEach(const QObject* window, Watch watch)
@@ -59,47 +60,47 @@ QStringList buttonAddress(QPushButton* button)
 
 } // namespace
 
-HostObserver::HostObserver(const WindowRegistry& registry, QObject* parent)
+ControlObserver::ControlObserver(const WindowRegistry& registry, QObject* parent)
     : QObject(parent), mRegistry(registry)
 {
-    connect(&registry, &WindowRegistry::opened, this, &HostObserver::onOpened);
-    connect(&registry, &WindowRegistry::changed, this, &HostObserver::onWindowChanged);
+    connect(&registry, &WindowRegistry::opened, this, &ControlObserver::onOpened);
+    connect(&registry, &WindowRegistry::changed, this, &ControlObserver::onWindowChanged);
     connect(qApp, &QApplication::focusChanged, this,
         [this](QWidget*, QWidget* now) { onFocusChanged(now); });
 }
 
-QString HostObserver::windowState(EnumWindowKind window) const
+QString ControlObserver::windowState(EnumWindowKind window) const
 {
     return mRegistry.state(window);
 }
 
-std::optional<int> HostObserver::textLength(EnumWindowKind window) const
+std::optional<int> ControlObserver::textLength(EnumWindowKind window) const
 {
     const auto* edit = lastFocused<QLineEdit>(window);
     return edit ? std::make_optional(edit->text().size()) : std::nullopt;
 }
 
-std::optional<int> HostObserver::spinBoxValue(EnumWindowKind window) const
+std::optional<int> ControlObserver::spinBoxValue(EnumWindowKind window) const
 {
     const auto* box = lastFocused<QSpinBox>(window);
     return box ? std::make_optional(box->value()) : std::nullopt;
 }
 
-std::optional<int> HostObserver::comboBoxRow(EnumWindowKind window, const QString& name) const
+std::optional<int> ControlObserver::comboBoxRow(EnumWindowKind window, const QString& name) const
 {
     const QWidget* scope = searched(window);
     const auto* box = scope ? scope->findChild<QComboBox*>(name) : nullptr;
     return box ? std::make_optional(box->currentIndex()) : std::nullopt;
 }
 
-std::optional<bool> HostObserver::isChecked(EnumWindowKind window, const QString& name) const
+std::optional<bool> ControlObserver::isChecked(EnumWindowKind window, const QString& name) const
 {
     const QWidget* scope = searched(window);
     const auto* box = scope ? scope->findChild<QCheckBox*>(name) : nullptr;
     return box ? std::make_optional(box->isChecked()) : std::nullopt;
 }
 
-bool HostObserver::eventFilter(QObject* watched, QEvent* event)
+bool ControlObserver::eventFilter(QObject* watched, QEvent* event)
 {
     auto* target = static_cast<QWidget*>(watched);
     const auto mouseEvent = [&](const QString& name) {
@@ -125,7 +126,7 @@ bool HostObserver::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void HostObserver::onOpened(EnumWindowKind kind, QWidget* window)
+void ControlObserver::onOpened(EnumWindowKind kind, QWidget* window)
 {
     if (kind == Window_Popup && mMenuOwner) {
         report(Condition_popup, {listName(mMenuOwner)}, mMenuOwner);
@@ -134,7 +135,7 @@ void HostObserver::onOpened(EnumWindowKind kind, QWidget* window)
     // What the controls hold is looked at after every change; as something that
     // happened counts only what the user did.
     watchEach<QLineEdit>(window, [this](QLineEdit* edit) {
-        connect(edit, &QLineEdit::textChanged, this, &HostObserver::changed);
+        connect(edit, &QLineEdit::textChanged, this, &ControlObserver::changed);
         connect(edit, &QLineEdit::textEdited, this, [this, edit](const QString& text) {
             report(
                 Condition_textLength, {QStringLiteral(">="), QString::number(text.size())}, edit);
@@ -148,14 +149,14 @@ void HostObserver::onOpened(EnumWindowKind kind, QWidget* window)
         });
     });
     watchEach<QComboBox>(window, [this](QComboBox* box) {
-        connect(
-            box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &HostObserver::changed);
+        connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ControlObserver::changed);
         connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, box](int row) {
             report(Condition_comboBox, {box->objectName(), QString::number(row)}, box);
         });
     });
     watchEach<QCheckBox>(window, [this](QCheckBox* box) {
-        connect(box, &QCheckBox::toggled, this, &HostObserver::changed);
+        connect(box, &QCheckBox::toggled, this, &ControlObserver::changed);
         connect(box, &QCheckBox::clicked, this, [this, box](bool on) {
             report(Condition_checked, {box->objectName(), QString::number(on)}, box);
         });
@@ -185,7 +186,7 @@ void HostObserver::onOpened(EnumWindowKind kind, QWidget* window)
         map->installEventFilter(this);
 }
 
-void HostObserver::onWindowChanged(EnumWindowKind kind)
+void ControlObserver::onWindowChanged(EnumWindowKind kind)
 {
     // Menus come and go with every action.
     if (kind != Window_Popup)
@@ -194,7 +195,7 @@ void HostObserver::onWindowChanged(EnumWindowKind kind)
     emit changed();
 }
 
-void HostObserver::onFocusChanged(QWidget* now)
+void ControlObserver::onFocusChanged(QWidget* now)
 {
     if (!now)
         return;
@@ -204,19 +205,19 @@ void HostObserver::onFocusChanged(QWidget* now)
     emit changed();
 }
 
-void HostObserver::report(
+void ControlObserver::report(
     EnumConditionKind kind, const QStringList& parameters, const QWidget* where)
 {
     emit happened({kind, parameters, mRegistry.windowsAround(where)});
 }
 
-QWidget* HostObserver::searched(EnumWindowKind window) const
+QWidget* ControlObserver::searched(EnumWindowKind window) const
 {
     return mRegistry.window(window == WindowKindCount ? Window_MainWindow : window);
 }
 
 template <typename Control>
-Control* HostObserver::lastFocused(EnumWindowKind window) const
+Control* ControlObserver::lastFocused(EnumWindowKind window) const
 {
     const QWidget* scope = searched(window);
     for (const QPointer<QWidget>& widget : mFocused) {

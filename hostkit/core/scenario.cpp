@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "demo/scenario.h"
+#include "hostkit/core/scenario.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>
@@ -7,6 +7,7 @@
 #include <algorithm>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 
@@ -28,7 +29,7 @@ std::optional<QPoint> pointOf(const QJsonObject& json)
 
 QString unknown(const QString& what, const QString& name)
 {
-    return QCoreApplication::translate("Scenario", "unknown %1 “%2”").arg(what, name);
+    return QCoreApplication::translate("TutorialHost::Scenario", "unknown %1 “%2”").arg(what, name);
 }
 
 Step stepOf(const QJsonObject& json, const QList<int>& path)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
@@ -10,24 +9,9 @@
 #include <functional>
 #include <optional>
 
-// Marks a widget and labels it, on top of all that its window holds.
-class PickOverlay : public QWidget {
-    Q_OBJECT
+namespace TutorialHost {
 
-public:
-    PickOverlay();
-
-    // Covers the widget's window. The label stands beside the cursor, given as
-    // a point of the screen.
-    void mark(QWidget* widget, const QString& text, const QPoint& cursor);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QRect mMarked;
-    QLabel* mLabel;
-};
+class PickOverlay;
 
 // Lets the author pick a point in the program's windows. Until a click or
 // Escape the windows get neither the mouse nor the keys, and what is under the
@@ -70,3 +54,5 @@ private:
     // Goes with the window that it covers.
     QPointer<PickOverlay> mOverlay;
 };
+
+} // namespace TutorialHost

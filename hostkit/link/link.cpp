@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "demo/hostlink.h"
+#include "hostkit/link/link.h"
 
 #include <QUuid>
 
+using namespace TutorialHost;
 namespace {
 
 constexpr int kAliveMs = 1000;
@@ -11,10 +12,10 @@ constexpr int kByeMs = 2000;
 
 } // namespace
 
-HostLink::HostLink(const QString& program, QObject* parent) : QObject(parent), mProgram(program)
+Link::Link(const QString& program, QObject* parent) : QObject(parent), mProgram(program)
 {
     mServer.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&mServer, &QLocalServer::newConnection, this, &HostLink::onNewConnection);
+    connect(&mServer, &QLocalServer::newConnection, this, &Link::onNewConnection);
 
     mProcess.setProcessChannelMode(QProcess::ForwardedChannels);
     connect(&mProcess, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
@@ -34,7 +35,7 @@ HostLink::HostLink(const QString& program, QObject* parent) : QObject(parent), m
         [this] { giveUp(tr("The tutorial has not connected.")); });
 }
 
-HostLink::~HostLink()
+Link::~Link()
 {
     disconnect(&mProcess, nullptr, this, nullptr);
     if (mSocket) {
@@ -49,7 +50,7 @@ HostLink::~HostLink()
     }
 }
 
-void HostLink::open()
+void Link::open()
 {
     if (mProcess.state() != QProcess::NotRunning)
         return;
@@ -62,34 +63,34 @@ void HostLink::open()
     mProcess.start(mProgram, {id});
 }
 
-void HostLink::send(const QVector<QStringList>& messages)
+void Link::send(const QVector<QStringList>& messages)
 {
     if (mSocket)
-        mSocket->write(HostPacket::encode(messages));
+        mSocket->write(encodePacket(messages));
 }
 
-void HostLink::onNewConnection()
+void Link::onNewConnection()
 {
     mSocket = mServer.nextPendingConnection();
     // One tutorial a connection id: nobody else gets in.
     mServer.close();
     mConnectTimer.stop();
     mDecoder = {};
-    connect(mSocket, &QLocalSocket::readyRead, this, &HostLink::onReadyRead);
+    connect(mSocket, &QLocalSocket::readyRead, this, &Link::onReadyRead);
     connect(mSocket, &QLocalSocket::disconnected, this,
         [this] { giveUp(tr("The tutorial has left the link.")); });
     mAliveTimer.start();
     emit connected();
 }
 
-void HostLink::onReadyRead()
+void Link::onReadyRead()
 {
     const QVector<QStringList> messages = mDecoder.feed(mSocket->readAll());
     for (const QStringList& fields : messages)
         emit received(fields);
 }
 
-void HostLink::giveUp(const QString& reason)
+void Link::giveUp(const QString& reason)
 {
     mServer.close();
     mConnectTimer.stop();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/hostlink.h"
-#include "demo/hostobserver.h"
-#include "demo/scenarioplayer.h"
+#include "hostkit/core/player.h"
+#include "hostkit/link/link.h"
+#include "hostkit/windows/controlobserver.h"
 
 #include <QObject>
 #include <QPoint>
@@ -13,22 +13,24 @@
 #include <functional>
 #include <optional>
 
+namespace TutorialHost {
+
 class WindowRegistry;
 
 // Plays tutorials for the host's windows, or shows a single step to its author:
 // puts the player, the picture of the windows and the link to the tutorial
 // together.
-class TutorialSession : public QObject {
+class Session : public QObject {
     Q_OBJECT
 
 public:
     // program: the tutorial's executable. registry: the host's windows;
     // outlives the session.
-    TutorialSession(const QString& program, WindowRegistry& registry, QObject* parent = nullptr);
+    Session(const QString& program, WindowRegistry& registry, QObject* parent = nullptr);
 
-    const ScenarioPlayer& player() const { return mPlayer; }
-    const HostLink& link() const { return mLink; }
-    const HostObserver& observer() const { return mObserver; }
+    const Player& player() const { return mPlayer; }
+    const Link& link() const { return mLink; }
+    const ControlObserver& observer() const { return mObserver; }
 
     // Plays the scenario file from the first step at or below this path; an
     // empty path is the whole file. What is wrong with the file is reported as a
@@ -86,9 +88,9 @@ private:
     void sendUnlessIdle(const QStringList& message);
 
     WindowRegistry& mRegistry;
-    HostObserver mObserver;
-    ScenarioPlayer mPlayer;
-    HostLink mLink;
+    ControlObserver mObserver;
+    Player mPlayer;
+    Link mLink;
     Scenario mScenario;
     // Translation context of the scenario's hints: its file's base name.
     QString mContext;
@@ -103,3 +105,5 @@ private:
     // back.
     QTimer mReclaimTimer;
 };
+
+} // namespace TutorialHost

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "demo/conditionrecorder.h"
+#include "hostkit/core/conditionrecorder.h"
 
 #include <QVector>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "demo/authoring.h"
+#include "hostkit/authoring.h"
 
-#include "demo/hint.h"
-#include "demo/tutorialsession.h"
-#include "demo/windowregistry.h"
 #include "editor/scenario/jsonescape.h"
 #include "editor/scenario/scenariowriter.h"
+#include "hostkit/core/hinttext.h"
+#include "hostkit/session.h"
+#include "hostkit/windows/windowregistry.h"
 #include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QFileInfo>
@@ -13,6 +13,7 @@
 #include <QJsonObject>
 
 using namespace Tutorial;
+using namespace TutorialHost;
 
 namespace {
 
@@ -29,24 +30,25 @@ Step bareStep(std::optional<QPoint> point = {}, EnumWindowKind window = Window_M
 
 } // namespace
 
-Authoring::Authoring(TutorialSession& session, const WindowRegistry& registry, QObject* parent)
+Authoring::Authoring(Session& session, const WindowRegistry& registry, QObject* parent)
     : QObject(parent), mSession(session), mRegistry(registry),
       mPicker(
           [this](const QWidget& widget, const QPoint& point) { return describe(widget, point); })
 {
-    connect(&session.link(), &HostLink::received, this, &Authoring::onReceived);
-    connect(&session, &TutorialSession::finished, this, [this] {
+    connect(&session.link(), &Link::received, this, &Authoring::onReceived);
+    connect(&session, &Session::finished, this, [this] {
         if (mOnTrial)
             endTrial();
     });
-    connect(&session, &TutorialSession::failed, this, [this] {
+    connect(&session, &Session::failed, this, [this] {
         mPath.clear();
         mOnTrial = false;
         mPicker.stop();
         mRecorder.stop();
     });
 
-    connect(&session.observer(), &HostObserver::happened, &mRecorder, &ConditionRecorder::onEvent);
+    connect(
+        &session.observer(), &ControlObserver::happened, &mRecorder, &ConditionRecorder::onEvent);
     connect(&mRecorder, &ConditionRecorder::recorded, this, [this](const Condition& condition) {
         mSession.send(QStringList{QStringLiteral("editor"), QStringLiteral("condition"),
                           getConditionKindName(condition.kind)}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "demo/hostpacket.h"
+#include "hostkit/core/packet.h"
 
+using namespace TutorialHost;
 namespace {
 
 constexpr QChar kFieldEnd = QLatin1Char(1);
@@ -18,7 +19,7 @@ QString cleaned(QString field)
 
 } // namespace
 
-QByteArray HostPacket::encode(const QVector<QStringList>& messages)
+QByteArray TutorialHost::encodePacket(const QVector<QStringList>& messages)
 {
     QString text = QStringLiteral("0");
     for (const QStringList& fields : messages) {
@@ -30,7 +31,7 @@ QByteArray HostPacket::encode(const QVector<QStringList>& messages)
     return text.toUtf8() + kPacketEnd;
 }
 
-QVector<QStringList> HostPacket::Decoder::feed(const QByteArray& bytes)
+QVector<QStringList> PacketDecoder::feed(const QByteArray& bytes)
 {
     mTail += bytes;
     QVector<QStringList> messages;

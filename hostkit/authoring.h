@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/conditionrecorder.h"
-#include "demo/pointpicker.h"
-#include "demo/scenario.h"
+#include "hostkit/core/conditionrecorder.h"
+#include "hostkit/core/scenario.h"
+#include "hostkit/windows/pointpicker.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
-class TutorialSession;
+namespace TutorialHost {
+
+class Session;
 class WindowRegistry;
 
 // The host's half of the authoring tool: opens a scenario file in the
@@ -20,7 +22,7 @@ class Authoring : public QObject {
 
 public:
     // Both outlive this one.
-    Authoring(TutorialSession& session, const WindowRegistry& registry, QObject* parent = nullptr);
+    Authoring(Session& session, const WindowRegistry& registry, QObject* parent = nullptr);
 
     // Writes a scenario of one step, for the author to begin with, over what
     // the path holds. False when it cannot be written.
@@ -48,7 +50,7 @@ private:
     void pickPoint();
     QString describe(const QWidget& widget, const QPoint& point) const;
 
-    TutorialSession& mSession;
+    Session& mSession;
     const WindowRegistry& mRegistry;
     ConditionRecorder mRecorder;
     PointPicker mPicker;
@@ -58,3 +60,5 @@ private:
     Step mStep;
     bool mOnTrial = false;
 };
+
+} // namespace TutorialHost

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demo/condition.h"
+#include "hostkit/core/condition.h"
 
 #include <QList>
 #include <QObject>
@@ -9,18 +9,20 @@
 #include <QWidget>
 
 class QAction;
+namespace TutorialHost {
+
 class WindowRegistry;
 
 // Watches the controls in the host's windows: it tells what happens there and
 // how things are, in the terms of the conditions. It needs nothing of the
 // windows but standard widgets, object names (a combo box's, a check box's, a
 // list's) and actions whose object names are those of the host-action list.
-class HostObserver : public QObject, public HostState {
+class ControlObserver : public QObject, public HostState {
     Q_OBJECT
 
 public:
     // registry: outlives the observer. Every window that opens is watched.
-    explicit HostObserver(const WindowRegistry& registry, QObject* parent = nullptr);
+    explicit ControlObserver(const WindowRegistry& registry, QObject* parent = nullptr);
 
     QString windowState(Tutorial::EnumWindowKind window) const override;
     std::optional<int> textLength(Tutorial::EnumWindowKind window) const override;
@@ -54,3 +56,5 @@ private:
     // Where the context menu that opens next belongs to.
     QPointer<QWidget> mMenuOwner;
 };
+
+} // namespace TutorialHost
