@@ -5,6 +5,7 @@
 #include "editor/manager.h"
 #include "tutorial/process/platform.h"
 #include "tutorial/process/terminationsignals.h"
+#include "tutorial/process/translations.h"
 #include "tutorial/process/version.h"
 #include "tutorial/runtime/tutorialmanager.h"
 
@@ -14,6 +15,8 @@
 #include <QWidget>
 
 namespace {
+
+constexpr int kFirstOption = 2; // behind the program and the connection id
 
 constexpr char kHelp[] =
     "Usage: tutorial [CONNECTION-ID [OPTION ...]]\n"
@@ -25,6 +28,8 @@ constexpr char kHelp[] =
     "it ends when the host says so, or after 30 seconds without a sign of life.\n"
     "\n"
     "Options, behind the connection id:\n"
+    "  -language LANG    the language of the texts, de for example, instead of the\n"
+    "                    system's\n"
     "  -stylesheet FILE  a Qt style sheet for the hint and the buttons\n"
     "and the others of every Qt program, such as -platform and -style.\n";
 
@@ -66,6 +71,8 @@ int runApplication(int argc, char** argv)
     QCoreApplication::setApplicationVersion(projectVersion());
     QCoreApplication::setOrganizationName(QStringLiteral("SOLVANTA"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("solvanta.example"));
+    installTranslations(wantedLanguages(QCoreApplication::arguments(), kFirstOption),
+        QStringLiteral(":/translations/tutorial"));
     // The process lives as long as its manager, also when the last window that
     // a user can close is closed.
     QApplication::setQuitOnLastWindowClosed(false);

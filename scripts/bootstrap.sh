@@ -12,6 +12,8 @@ packages=(
   clang libclang-rt-dev llvm
   # Qt 5: libraries, headers, moc and rcc, and the translation tools
   qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
+  # Qt's own texts in other languages
+  qttranslations5-l10n qt6-translations-l10n
   # the demo's pointer and keyboard: X11 and its test extension
   libx11-dev libxtst-dev
   # a display without a screen: server, window manager, compositor, tools
