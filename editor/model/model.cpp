@@ -180,6 +180,9 @@ void Model::insertJsonRow(QStandardItem* parent, int row, int depth, const QJson
         items << createEndMarker();
     if (items.isEmpty())
         return;
+    // Rows that bring their column with them would announce both at once.
+    if (parent->columnCount() == 0)
+        parent->setColumnCount(1);
     parent->insertRows(row, items);
 
     // A block of rows is inserted without what is below them.
