@@ -44,7 +44,7 @@ constexpr int kMostInPacket = 8; // messages
 constexpr int kAlivesAfter = 5;
 constexpr double kMostMemory = 1.1; // to what it was
 constexpr double kMostAliveMs = 1500; // for one a second
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TUTORIAL_SANITIZED
 constexpr bool kJudgesMemory = false; // what is released is kept, to find late users
 #else
 constexpr bool kJudgesMemory = true;

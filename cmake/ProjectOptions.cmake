@@ -15,14 +15,15 @@ if(TUTORIAL_WERROR)
   target_compile_options(project_options INTERFACE -Werror)
 endif()
 
-if(TUTORIAL_SANITIZE OR TUTORIAL_FUZZ)
+if(TUTORIAL_SANITIZE)
   set(checks address,undefined)
-  if(TUTORIAL_FUZZ)
-    string(APPEND checks ,fuzzer-no-link)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    string(APPEND checks ,fuzzer-no-link) # what the fuzzers steer by
   endif()
   # One runtime for the whole process, so the flags go to every target at once.
   add_compile_options(-fsanitize=${checks} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${checks})
+  add_compile_definitions(TUTORIAL_SANITIZED)
   add_library(keep_modules OBJECT ${CMAKE_CURRENT_LIST_DIR}/keepmodules.cpp)
   link_libraries($<TARGET_OBJECTS:keep_modules>)
 endif()

@@ -138,7 +138,7 @@ QWidget* EventDialog::newCommandsPage()
     return page;
 }
 
-MapEvent EventDialog::event() const
+MapEvent EventDialog::edited() const
 {
     MapEvent event = mEvent;
     event.name = mName->text();

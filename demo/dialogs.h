@@ -52,7 +52,7 @@ class EventDialog : public FormDialog {
 public:
     EventDialog(const MapEvent& event, QWidget* parent);
 
-    MapEvent event() const;
+    MapEvent edited() const;
 
 private:
     QWidget* newSettingsPage();

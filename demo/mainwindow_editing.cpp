@@ -201,9 +201,9 @@ void MainWindow::openEvent(const QPoint& cell)
     open(Window_EventEditorMain, new EventDialog(event, this),
         [this, index](const EventDialog& dialog) {
             if (index >= 0)
-                map().events[index] = dialog.event();
+                map().events[index] = dialog.edited();
             else
-                map().events << dialog.event();
+                map().events << dialog.edited();
             showMap(mMapIndex);
         });
 }

@@ -12,6 +12,8 @@ packages=(
   clang libclang-rt-dev llvm
   # Qt 5: libraries, headers, moc and rcc, and the translation tools
   qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
+  # Qt 6, the same, and what its headers ask for
+  qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
   # Qt's own texts in other languages
   qttranslations5-l10n qt6-translations-l10n
   # the demo's pointer and keyboard: X11 and its test extension
@@ -27,7 +29,7 @@ if ! command -v apt-get >/dev/null 2>&1; then
 $0: this system does not install Debian packages. Please install, by the names
 that your system has for them: a C++17 compiler, clang 14 or newer with libFuzzer
 and the sanitizers, CMake 3.24 or newer, Ninja, Qt 5.15 (base with private tools,
-Linguist tools), the X11 and XTest development files, Xvfb, openbox, picom,
+Linguist tools), Qt 6.4 (the same), the X11 and XTest development files, Xvfb, openbox, picom,
 xdotool, xprop, xwininfo and xrestop, and the DejaVu fonts. In Debian they are:
   ${packages[*]}
 Then run scripts/test.sh or scripts/demo.sh with TUTORIAL_SKIP_BOOTSTRAP=1.

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Builds the fuzzers and runs them, all at once, for some time. An input that
-# breaks a rule ends its fuzzer and is put into build/fuzz/findings; give the
-# file to the program, build/fuzz/bin/fuzz_TARGET, to see it again.
+# breaks a rule ends its fuzzer and is put into build/asan/findings; give the
+# file to the program, build/asan/bin/fuzz_TARGET, to see it again.
 #
 #   scripts/fuzz.sh [SECONDS [TARGET ...]]     (60 link scenario step untr)
 #
@@ -15,8 +15,8 @@ targets=("${@:2}")
 [ ${#targets[@]} -gt 0 ] || targets=(link scenario step untr)
 
 [ -n "${TUTORIAL_SKIP_BOOTSTRAP:-}" ] || scripts/bootstrap.sh
-cmake --preset fuzz -DTUTORIAL_FUZZ_SECONDS="$seconds" >/dev/null
-cmake --build --preset fuzz
+cmake --preset asan -DTUTORIAL_FUZZ_SECONDS="$seconds" >/dev/null
+cmake --build --preset asan --target "${targets[@]/#/fuzz_}"
 wanted=$(IFS='|' && echo "${targets[*]}")
-ctest --preset fuzz --verbose --no-tests=error --parallel ${#targets[@]} \
+ctest --preset asan --verbose --no-tests=error --parallel $((4 * ${#targets[@]})) \
   --tests-regex "^fuzz_($wanted)\$"
