@@ -51,9 +51,11 @@ public:
     Model* model() const { return mModel; }
 
     // Loads a scenario and shows the dialog. text: the file's, without comments
-    // and markers; errors: what was found wrong with it until now. All that cannot
-    // be read is shown to the author in one box.
-    void setContents(const QString& text, QStringList errors = QStringList());
+    // and markers; errors: what was found wrong with it until now; fileText: all of
+    // the file's text, for places in it. All that cannot be read is shown to the
+    // author in one box.
+    void setContents(const QString& text, QStringList errors = QStringList(),
+        const QString& fileText = QString());
     // Takes steps, with the contents of groups, in place of those in the tree, as
     // changes that are not saved, and shows the dialog.
     void recover(const QJsonArray& steps);

@@ -45,9 +45,9 @@ void setLocalized(TutorialItem* item, const QString& translation)
 
 } // namespace
 
-void Dialog::setContents(const QString& text, QStringList errors)
+void Dialog::setContents(const QString& text, QStringList errors, const QString& fileText)
 {
-    mModel->setContents(text, &errors);
+    mModel->setContents(text, &errors, fileText);
     showErrors(tr("Parse error"), errors);
     mSaved = SavedState(getCurrentSteps());
     bringToFront();

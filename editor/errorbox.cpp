@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kShownErrors = 12;
 // Of a longer error. Its end says where it is.
-constexpr int kShownBegin = 700;
-constexpr int kShownEnd = 200;
+constexpr int kShownBegin = 500;
+constexpr int kShownEnd = 450;
 
 QString shortened(const QString& error)
 {

@@ -85,7 +85,7 @@ void Manager::setContents(const QString& path)
     QString text;
     QStringList errors;
     if (readScenarioText(path, &text, &errors)) {
-        manager->mDialog->setContents(removeMarkers(removeComments(text)), errors);
+        manager->mDialog->setContents(removeMarkers(removeComments(text)), errors, text);
         manager->mDialog->localizeAll();
     } else {
         EDITOR_DEBUG_NUMBER(69) << path << "cannot be opened";

@@ -36,11 +36,11 @@
     </message>
     <message>
         <source>lines end with CR LF instead of LF</source>
-        <translation>Zeilen enden mit CR LF statt mit LF</translation>
+        <translation type="vanished">Zeilen enden mit CR LF statt mit LF</translation>
     </message>
     <message>
         <source>No close &quot; found: %1</source>
-        <translation>Kein schließendes " gefunden: %1</translation>
+        <translation>Kein schließendes &quot; gefunden: %1</translation>
     </message>
     <message>
         <source>qsTr/QT_TRANSLATE_NOOP not closed: %1</source>
@@ -49,6 +49,14 @@
     <message>
         <source>No CR/NF found: %1</source>
         <translation>Kein Zeilenende gefunden: %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
     </message>
 </context>
 <context>
@@ -175,7 +183,7 @@
     </message>
     <message>
         <source>What the balloon says; qsTr(&quot;…&quot;) around it makes it translatable</source>
-        <translation>Was die Sprechblase sagt; qsTr("…") darum macht es übersetzbar</translation>
+        <translation>Was die Sprechblase sagt; qsTr(&quot;…&quot;) darum macht es übersetzbar</translation>
     </message>
     <message>
         <source>The hint as the learner sees it, translated by the editor</source>
@@ -402,6 +410,353 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
     <message>
         <source>unknown icon: </source>
         <translation>unbekanntes Symbol: </translation>
+    </message>
+</context>
+<context>
+    <name>TutorialEditor::Problem</name>
+    <message>
+        <source>Lines end with CR LF, behind an expression too</source>
+        <translation>Zeilen enden mit CR LF, auch hinter einem Ausdruck</translation>
+    </message>
+    <message>
+        <source>Let your text editor write LF</source>
+        <translation>Lassen Sie Ihren Texteditor LF schreiben</translation>
+    </message>
+    <message>
+        <source>A line that ends with “),” is expected behind this expression</source>
+        <translation>Hinter diesem Ausdruck wird eine Zeile erwartet, die mit „),“ endet</translation>
+    </message>
+    <message>
+        <source>Begin each key on a line of its own</source>
+        <translation>Beginnen Sie jeden Schlüssel auf einer eigenen Zeile</translation>
+    </message>
+    <message>
+        <source>This text begins like an expression, and no line after it ends with “&quot;,”</source>
+        <translation>Dieser Text beginnt wie ein Ausdruck, und keine Zeile danach endet mit „&quot;,“</translation>
+    </message>
+    <message>
+        <source>Write the expression without quotation marks</source>
+        <translation>Schreiben Sie den Ausdruck ohne Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>A line end is expected behind the last key</source>
+        <translation>Hinter dem letzten Schlüssel wird ein Zeilenende erwartet</translation>
+    </message>
+    <message>
+        <source>Lists and objects lie in each other deeper than can be read</source>
+        <translation>Listen und Objekte liegen tiefer ineinander, als gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>Take groups apart</source>
+        <translation>Lösen Sie Gruppen auf</translation>
+    </message>
+    <message>
+        <source>There is no list of steps</source>
+        <translation>Es gibt keine Liste von Schritten</translation>
+    </message>
+    <message>
+        <source>This cannot be read</source>
+        <translation>Das kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Other text stands behind the steps</source>
+        <translation>Hinter den Schritten steht anderer Text</translation>
+    </message>
+    <message>
+        <source>Begin with “%1”, end with “];”</source>
+        <translation>Beginnen Sie mit „%1“, enden Sie mit „];“</translation>
+    </message>
+    <message>
+        <source>The frame does not begin with “%1”</source>
+        <translation>Der Rahmen beginnt nicht mit „%1“</translation>
+    </message>
+    <message>
+        <source>Write it exactly so, to the blank</source>
+        <translation>Schreiben Sie es genau so, bis aufs Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Other text stands before the list</source>
+        <translation>Vor der Liste steht anderer Text</translation>
+    </message>
+    <message>
+        <source>Take it out, or make it a comment</source>
+        <translation>Nehmen Sie ihn heraus, oder machen Sie einen Kommentar daraus</translation>
+    </message>
+    <message>
+        <source>The frame does not end with “];”</source>
+        <translation>Der Rahmen endet nicht mit „];“</translation>
+    </message>
+    <message>
+        <source>Other text stands behind the list</source>
+        <translation>Hinter der Liste steht anderer Text</translation>
+    </message>
+    <message>
+        <source>“%1” is no number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>Write it in decimal digits, without a unit, or as a text</source>
+        <translation>Schreiben Sie sie in Dezimalziffern, ohne Einheit, oder als Text</translation>
+    </message>
+    <message>
+        <source>The text has no opening quotation mark</source>
+        <translation>Dem Text fehlt das öffnende Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Write &quot;%1&quot;</source>
+        <translation>Schreiben Sie &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Between %1 and ( may be no blank</source>
+        <translation>Zwischen %1 und ( darf kein Leerzeichen stehen</translation>
+    </message>
+    <message>
+        <source>“%1” is no translation</source>
+        <translation>„%1“ ist keine Übersetzung</translation>
+    </message>
+    <message>
+        <source>Write qsTr(&quot;…&quot;)</source>
+        <translation>Schreiben Sie qsTr(&quot;…&quot;)</translation>
+    </message>
+    <message>
+        <source>“%1” is no value</source>
+        <translation>„%1“ ist kein Wert</translation>
+    </message>
+    <message>
+        <source>Write a text in quotation marks</source>
+        <translation>Schreiben Sie einen Text in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>A value is missing</source>
+        <translation>Ein Wert fehlt</translation>
+    </message>
+    <message>
+        <source>Write &quot;&quot; for an empty text</source>
+        <translation>Schreiben Sie &quot;&quot; für einen leeren Text</translation>
+    </message>
+    <message>
+        <source>“%1” is neither a text nor a number</source>
+        <translation>„%1“ ist weder ein Text noch eine Zahl</translation>
+    </message>
+    <message>
+        <source>The key “%1” has no opening quotation mark</source>
+        <translation>Dem Schlüssel „%1“ fehlt das öffnende Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>The key “%1” has no quotation marks</source>
+        <translation>Der Schlüssel „%1“ steht nicht in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>A key in quotation marks is expected instead of “%1”</source>
+        <translation>Statt „%1“ wird ein Schlüssel in Anführungszeichen erwartet</translation>
+    </message>
+    <message>
+        <source>A colon is expected behind the key %1</source>
+        <translation>Hinter dem Schlüssel %1 wird ein Doppelpunkt erwartet</translation>
+    </message>
+    <message>
+        <source>Write &quot;key&quot;: value</source>
+        <translation>Schreiben Sie &quot;Schlüssel&quot;: Wert</translation>
+    </message>
+    <message>
+        <source>A comma is expected instead of the semicolon</source>
+        <translation>Statt des Semikolons wird ein Komma erwartet</translation>
+    </message>
+    <message>
+        <source>This quotation mark ends the text</source>
+        <translation>Dieses Anführungszeichen beendet den Text</translation>
+    </message>
+    <message>
+        <source>Write \&quot; for one that is a part of the text</source>
+        <translation>Schreiben Sie \&quot; für eines, das zum Text gehört</translation>
+    </message>
+    <message>
+        <source>A comma is missing here: the expression runs on</source>
+        <translation>Hier fehlt ein Komma: Der Ausdruck läuft weiter</translation>
+    </message>
+    <message>
+        <source>A comma is missing here</source>
+        <translation>Hier fehlt ein Komma</translation>
+    </message>
+    <message>
+        <source>Write one behind each value but the last</source>
+        <translation>Schreiben Sie eines hinter jeden Wert außer dem letzten</translation>
+    </message>
+    <message>
+        <source>Texts cannot be put together with +</source>
+        <translation>Texte lassen sich nicht mit + zusammensetzen</translation>
+    </message>
+    <message>
+        <source>Write one text between one pair of quotation marks</source>
+        <translation>Schreiben Sie einen Text zwischen ein Paar Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>This %1 has no partner</source>
+        <translation>Diese %1 hat kein Gegenstück</translation>
+    </message>
+    <message>
+        <source>Take it out, or write its partner</source>
+        <translation>Nehmen Sie sie heraus, oder schreiben Sie ihr Gegenstück</translation>
+    </message>
+    <message>
+        <source>This bracket has no partner</source>
+        <translation>Diese Klammer hat kein Gegenstück</translation>
+    </message>
+    <message>
+        <source>A %1 is missing here</source>
+        <translation>Hier fehlt eine %1</translation>
+    </message>
+    <message>
+        <source>Write a %1 where it belongs</source>
+        <translation>Schreiben Sie eine %1, wo sie hingehört</translation>
+    </message>
+    <message>
+        <source>Nothing stands behind this comma</source>
+        <translation>Hinter diesem Komma steht nichts</translation>
+    </message>
+    <message>
+        <source>Take it out</source>
+        <translation>Nehmen Sie es heraus</translation>
+    </message>
+    <message>
+        <source>A character that only looks like a blank stands here (U+%1)</source>
+        <translation>Hier steht ein Zeichen, das nur wie ein Leerzeichen aussieht (U+%1)</translation>
+    </message>
+    <message>
+        <source>Type a blank instead</source>
+        <translation>Tippen Sie stattdessen ein Leerzeichen</translation>
+    </message>
+    <message>
+        <source>A // comment stands behind other text</source>
+        <translation>Ein Kommentar mit // steht hinter anderem Text</translation>
+    </message>
+    <message>
+        <source>Put it on a line of its own, or write /* … */</source>
+        <translation>Setzen Sie ihn auf eine eigene Zeile, oder schreiben Sie /* … */</translation>
+    </message>
+    <message>
+        <source>A // comment needs a line end behind it</source>
+        <translation>Ein Kommentar mit // braucht ein Zeilenende hinter sich</translation>
+    </message>
+    <message>
+        <source>End the file with an empty line</source>
+        <translation>Beenden Sie die Datei mit einer leeren Zeile</translation>
+    </message>
+    <message>
+        <source>This /* begins a comment, although a // stands before it</source>
+        <translation>Dieses /* beginnt einen Kommentar, obwohl // davorsteht</translation>
+    </message>
+    <message>
+        <source>Take it out of the // comment</source>
+        <translation>Nehmen Sie es aus dem Kommentar mit // heraus</translation>
+    </message>
+    <message>
+        <source>This comment has no end</source>
+        <translation>Dieser Kommentar hat kein Ende</translation>
+    </message>
+    <message>
+        <source>Write */ where it ends</source>
+        <translation>Schreiben Sie */, wo er endet</translation>
+    </message>
+    <message>
+        <source>Four hexadecimal digits are expected behind \u</source>
+        <translation>Hinter \u werden vier Hexadezimalziffern erwartet</translation>
+    </message>
+    <message>
+        <source>Write a backslash as \\</source>
+        <translation>Schreiben Sie einen Rückstrich als \\</translation>
+    </message>
+    <message>
+        <source>\%1 does not stand for a backslash and “%1”</source>
+        <translation>\%1 steht nicht für einen Rückstrich und „%1“</translation>
+    </message>
+    <message>
+        <source>\%1 means “%1”, without the backslash</source>
+        <translation>\%1 bedeutet „%1“, ohne den Rückstrich</translation>
+    </message>
+    <message>
+        <source>The text %1 runs over the end of its line</source>
+        <translation>Der Text %1 läuft über das Ende seiner Zeile hinaus</translation>
+    </message>
+    <message>
+        <source>Write a line end as \n</source>
+        <translation>Schreiben Sie ein Zeilenende als \n</translation>
+    </message>
+    <message>
+        <source>The text %1 has no closing quotation mark</source>
+        <translation>Dem Text %1 fehlt das schließende Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Close it in its line</source>
+        <translation>Schließen Sie ihn in seiner Zeile</translation>
+    </message>
+    <message>
+        <source>The backslash makes this quotation mark a part of the text</source>
+        <translation>Der Rückstrich macht dieses Anführungszeichen zu einem Teil des Textes</translation>
+    </message>
+    <message>
+        <source>The key “%1” has no closing quotation mark</source>
+        <translation>Dem Schlüssel „%1“ fehlt das schließende Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Close it before the colon</source>
+        <translation>Schließen Sie ihn vor dem Doppelpunkt</translation>
+    </message>
+    <message>
+        <source>This quotation mark ends the text %1</source>
+        <translation>Dieses Anführungszeichen beendet den Text %1</translation>
+    </message>
+    <message>
+        <source>A template string is not understood</source>
+        <translation>Eine Vorlagenzeichenkette wird nicht verstanden</translation>
+    </message>
+    <message>
+        <source>Write the text in quotation marks, &quot;…&quot;, with \n for a line end</source>
+        <translation>Schreiben Sie den Text in Anführungszeichen, &quot;…&quot;, mit \n für ein Zeilenende</translation>
+    </message>
+    <message>
+        <source>The quotation marks are not &quot;</source>
+        <translation>Die Anführungszeichen sind nicht &quot;</translation>
+    </message>
+    <message>
+        <source>Write &quot;…&quot;</source>
+        <translation>Schreiben Sie &quot;…&quot;</translation>
+    </message>
+    <message>
+        <source>A comment inside an expression is taken for a part of it</source>
+        <translation>Ein Kommentar in einem Ausdruck wird für einen Teil davon gehalten</translation>
+    </message>
+    <message>
+        <source>Put it on a line of its own above the key</source>
+        <translation>Setzen Sie ihn auf eine eigene Zeile über dem Schlüssel</translation>
+    </message>
+    <message>
+        <source>Between ( and the quotation mark may be no blank</source>
+        <translation>Zwischen ( und dem Anführungszeichen darf kein Leerzeichen stehen</translation>
+    </message>
+    <message>
+        <source>The ) of the expression is missing: it runs on</source>
+        <translation>Die ) des Ausdrucks fehlt: Er läuft weiter</translation>
+    </message>
+    <message>
+        <source>Close it behind the text</source>
+        <translation>Schließen Sie ihn hinter dem Text</translation>
+    </message>
+    <message>
+        <source>An expression has two texts at most</source>
+        <translation>Ein Ausdruck hat höchstens zwei Texte</translation>
+    </message>
+    <message>
+        <source>Write qsTr(&quot;text&quot;, &quot;note&quot;)</source>
+        <translation>Schreiben Sie qsTr(&quot;Text&quot;, &quot;Bemerkung&quot;)</translation>
+    </message>
+    <message>
+        <source>Write QT_TRANSLATE_NOOP(&quot;context&quot;, &quot;text&quot;)</source>
+        <translation>Schreiben Sie QT_TRANSLATE_NOOP(&quot;Kontext&quot;, &quot;Text&quot;)</translation>
+    </message>
+    <message>
+        <source>Only texts in quotation marks can stand in an expression</source>
+        <translation>In einem Ausdruck können nur Texte in Anführungszeichen stehen</translation>
     </message>
 </context>
 <context>

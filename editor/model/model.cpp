@@ -5,7 +5,6 @@
 #include "editor/scenario/debuglog.h"
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/stepfields.h"
-#include "editor/scenario/translationescape.h"
 #include "resource/pictures.h"
 
 #include <QIcon>
@@ -114,12 +113,11 @@ QString Model::getModelIndexListStr(const QList<QModelIndex>& indexes) const
     return QLatin1Char('(') + texts.join(QLatin1String(", ")) + QLatin1Char(')');
 }
 
-void Model::setContents(const QString& text, QStringList* errors)
+void Model::setContents(const QString& text, QStringList* errors, const QString& fileText)
 {
     EDITOR_DEBUG;
-    const QString json = escapeTranslationForJson(text, errors);
     const int errorCount = errors->size();
-    const QJsonArray steps = parseSteps(json, errors);
+    const QJsonArray steps = readSteps(text, errors, fileText);
     if (errors->size() == errorCount)
         setSteps(steps, errors);
     else

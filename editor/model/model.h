@@ -49,8 +49,9 @@ public:
     // An item for a step, or for a group's own keys, that is not yet in the tree.
     TutorialItem* createItem(const QJsonObject& step, int depth) const;
     // Replaces the whole tree by the steps of a scenario's text without
-    // comments and markers. errors: receives what cannot be read, for the author.
-    void setContents(const QString& text, QStringList* errors);
+    // comments and markers. errors: receives what cannot be read, for the author,
+    // with its place in the file's text when that is given.
+    void setContents(const QString& text, QStringList* errors, const QString& fileText = QString());
     // Replaces the whole tree by steps, groups with their contents. errors:
     // receives what cannot be read.
     void setSteps(const QJsonArray& steps, QStringList* errors);

@@ -3,7 +3,6 @@
 
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/scenariowriter.h"
-#include "editor/scenario/translationescape.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -42,8 +41,7 @@ QString firstDifference(const QJsonArray& steps, const QJsonArray& read)
 QStringList TutorialEditor::findUnreadable(const QString& json, const QJsonArray& steps)
 {
     QStringList errors;
-    const QString text = removeMarkers(removeComments(scenarioFileText(json)));
-    const QJsonArray read = parseSteps(escapeTranslationForJson(text, &errors), &errors);
+    const QJsonArray read = readScenario(scenarioFileText(json), &errors);
     if (!errors.isEmpty())
         return errors;
     if (scenarioJson(read) == json)

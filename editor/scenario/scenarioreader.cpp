@@ -30,7 +30,7 @@ int indexOfPair(const QString& text, char first, char second)
     return -1;
 }
 
-QString removeBlockComments(const QString& text)
+QString removeBlockComments(const QString& text, PositionMap* map)
 {
     QString result;
     TextWalker walker(text);
@@ -46,15 +46,15 @@ QString removeBlockComments(const QString& text)
         const int close = text.indexOf(QLatin1String("*/"), i + 1);
         if (close == -1)
             break;
-        appendTo(&result, QStringView(text).mid(copied, i - copied));
+        copyPart(&result, text, copied, i, map);
         result.chop(1);
         i = copied = close + 2;
     }
-    appendTo(&result, QStringView(text).mid(copied));
+    copyPart(&result, text, copied, text.size(), map);
     return result;
 }
 
-QString removeLineComments(const QString& text)
+QString removeLineComments(const QString& text, PositionMap* map)
 {
     QString result;
     TextWalker walker(text);
@@ -70,10 +70,10 @@ QString removeLineComments(const QString& text)
         const int end = text.indexOf(QLatin1Char('\n'), first);
         if (end == -1) // no whole line: it stays
             break;
-        appendTo(&result, QStringView(text).mid(copied, line - copied));
+        copyPart(&result, text, copied, line, map);
         line = copied = end + 1;
     }
-    appendTo(&result, QStringView(text).mid(copied));
+    copyPart(&result, text, copied, text.size(), map);
     return result;
 }
 
@@ -86,6 +86,37 @@ int findMarker(const QString& text, const QString& marker)
     while (i < text.size() && !QStringView(text).mid(i).startsWith(marker))
         i = walker.find(first, walker.next(i));
     return i;
+}
+
+QString noArray()
+{
+    return ReadError::tr("json is not array");
+}
+
+QJsonArray parseJson(const QString& json, std::optional<ReadFailure>* failure)
+{
+    const QByteArray bytes = json.toUtf8();
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (document.isArray())
+        return document.array();
+
+    const int position = QString::fromUtf8(bytes.constData(), error.offset).size();
+    if (error.error == QJsonParseError::NoError || json.isEmpty())
+        *failure = {ReadFailure::NoList, noArray(), 0};
+    else if (error.error == QJsonParseError::DeepNesting)
+        *failure = {ReadFailure::TooDeep, noArray(), position};
+    else
+        *failure = {ReadFailure::Json, noArray(), position};
+    return QJsonArray();
+}
+
+QJsonArray parse(
+    const QString& text, std::optional<ReadFailure>* failure, PositionMaps* maps = nullptr)
+{
+    failure->reset();
+    const QString json = escapeTranslations(text, failure, maps);
+    return *failure ? QJsonArray() : parseJson(json, failure);
 }
 
 } // namespace
@@ -105,13 +136,21 @@ bool TutorialEditor::readScenarioText(const QString& path, QString* text, QStrin
     return true;
 }
 
-QString TutorialEditor::removeComments(const QString& text)
+QString TutorialEditor::removeComments(const QString& text, PositionMaps* maps)
 {
-    const QString lines = indexOfPair(text, '/', '*') != -1 ? removeBlockComments(text) : text;
-    return indexOfPair(lines, '/', '/') != -1 ? removeLineComments(lines) : lines;
+    const auto without = [maps](const QString& former, auto* remove) {
+        PositionMap map;
+        const QString result = remove(former, maps ? &map : nullptr);
+        if (maps)
+            maps->append(map);
+        return result;
+    };
+    const QString lines =
+        indexOfPair(text, '/', '*') != -1 ? without(text, removeBlockComments) : text;
+    return indexOfPair(lines, '/', '/') != -1 ? without(lines, removeLineComments) : lines;
 }
 
-QString TutorialEditor::removeMarkers(const QString& text)
+QString TutorialEditor::removeMarkers(const QString& text, PositionMaps* maps)
 {
     static const QString kHead = QStringLiteral("var scenario = [");
     static const QString kTail = QStringLiteral("];");
@@ -132,42 +171,64 @@ QString TutorialEditor::removeMarkers(const QString& text)
     std::sort(removed.begin(), removed.end());
     QString result;
     result.reserve(text.size());
+    PositionMap map;
     int copied = 0;
     for (const QPair<int, int>& range : qAsConst(removed)) {
-        appendTo(&result, QStringView(text).mid(copied, range.first - copied));
+        copyPart(&result, text, copied, range.first, &map);
         copied = range.second;
     }
-    appendTo(&result, QStringView(text).mid(copied));
+    copyPart(&result, text, copied, text.size(), &map);
+    if (maps)
+        maps->append(map);
     return result;
 }
 
 QJsonArray TutorialEditor::parseSteps(const QString& text, QStringList* errors)
 {
-    const QByteArray bytes = text.toUtf8();
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
-    if (document.isArray())
-        return document.array();
+    std::optional<ReadFailure> failure;
+    const QJsonArray steps = parseJson(text, &failure);
+    if (failure)
+        errors->append(describedFailure(*failure, text, failure->position));
+    return steps;
+}
 
-    const QString message = ReadError::tr("json is not array");
-    if (error.error == QJsonParseError::NoError || bytes.isEmpty()) {
-        errors->append(message);
-        return QJsonArray();
-    }
-    constexpr int kShownLength = 60;
-    const int position = QString::fromUtf8(bytes.constData(), error.offset).size();
-    const int lineBegin = position > 0 ? text.lastIndexOf(QLatin1Char('\n'), position - 1) + 1 : 0;
-    const QString line =
-        text.mid(lineBegin, text.indexOf(QLatin1Char('\n'), lineBegin) - lineBegin);
-    errors->append(
-        located(message, text, position, {error.errorString(), line.trimmed().left(kShownLength)}));
+QJsonArray TutorialEditor::readSteps(
+    const QString& text, QStringList* errors, const QString& fileText)
+{
+    std::optional<ReadFailure> failure;
+    const QJsonArray steps = parse(text, &failure);
+    if (!failure)
+        return steps;
+
+    // Once more, with notes of what comes from where.
+    PositionMaps maps;
+    const bool hasFile = !fileText.isNull();
+    if (hasFile)
+        removeMarkers(removeComments(fileText, &maps), &maps);
+    parse(text, &failure, &maps);
+    errors->append(describedFailure(
+        *failure, hasFile ? fileText : text, originalPosition(maps, failure->position)));
+    if (failure->message != noArray())
+        errors->append(noArray());
     return QJsonArray();
+}
+
+ReadScenario TutorialEditor::readScenario(const QString& fileText)
+{
+    ReadScenario result;
+    result.steps = parse(removeMarkers(removeComments(fileText)), &result.failure);
+    if (!result.failure)
+        return result;
+    PositionMaps maps;
+    const QString text = removeMarkers(removeComments(fileText, &maps), &maps);
+    parse(text, &result.failure, &maps);
+    result.position = originalPosition(maps, result.failure->position);
+    return result;
 }
 
 QJsonArray TutorialEditor::readScenario(const QString& fileText, QStringList* errors)
 {
-    const QString text = removeMarkers(removeComments(fileText));
-    return parseSteps(escapeTranslationForJson(text, errors), errors);
+    return readSteps(removeMarkers(removeComments(fileText)), errors, fileText);
 }
 
 bool TutorialEditor::readScenarioFile(const QString& path, QJsonArray* steps, QStringList* errors)

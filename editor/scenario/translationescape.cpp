@@ -64,7 +64,8 @@ int expressionEnd(const QString& text, int begin, int content, NextOccurrence* c
     return close == -1 ? -1 : close + 1;
 }
 
-bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form, QStringList* errors)
+bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form,
+    std::optional<ReadFailure>* failure, PositionMap* map)
 {
     const QString& text = rewriting->text;
     if (!text.contains(form.openMarker))
@@ -78,7 +79,7 @@ bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form, QStrin
         const int shift = result.text.size() - copied;
         for (; known != rewriting->expressions.cend() && known->begin < end; ++known)
             result.expressions.append({known->begin + shift, known->end + shift});
-        appendTo(&result.text, QStringView(text).mid(copied, end - copied));
+        copyPart(&result.text, text, copied, end, map);
         copied = end;
     };
 
@@ -95,14 +96,14 @@ bool rewriteExpressions(Rewriting* rewriting, const ExpressionForm& form, QStrin
             const QString message =
                 ReadError::tr("closeMarker(%1) not found (l:%3): %2")
                     .arg(kCloseMarker, text.mid(copied), QString::number(form.reportNumber));
-            const bool isCrLf = text.indexOf(QLatin1String("\r\n"), i) != -1;
-            errors->append(located(message, text, i,
-                {isCrLf ? ReadError::tr("lines end with CR LF instead of LF") : QString()}));
+            *failure = {ReadFailure::OpenExpression, message, i};
             return false;
         }
         const bool hasComma = isAt(text, end, ',');
         const int begin = result.text.size() + i - copied;
         copyUntil(i);
+        if (map)
+            map->add(begin, i);
         result.text += QLatin1Char('"');
         appendJsonEscaped(&result.text,
             QStringView(text).mid(i, end - i + (hasComma && form.takesComma ? 1 : 0)));
@@ -166,7 +167,7 @@ StringEnd valueEnd(const QString& text, int content)
 
 // Goes from string to string by the line ends that follow them, not by JSON's
 // rules, and reports a string that a file laid out as ours cannot hold.
-bool checkStrings(const Rewriting& rewriting, QStringList* errors)
+bool checkStrings(const Rewriting& rewriting, std::optional<ReadFailure>* failure)
 {
     const QString& text = rewriting.text;
     const QStringView whole(text);
@@ -175,8 +176,8 @@ bool checkStrings(const Rewriting& rewriting, QStringList* errors)
     auto expression = rewriting.expressions.cbegin();
     int quote = 0;
     for (int position = 0; (quote = text.indexOf(QLatin1Char('"'), position)) != -1;) {
-        const auto fail = [&](const QString& message) {
-            errors->append(located(message, text, quote));
+        const auto fail = [&](ReadFailure::Kind kind, const QString& message) {
+            *failure = {kind, message, quote};
             return false;
         };
         const int content = quote + 1;
@@ -189,16 +190,17 @@ bool checkStrings(const Rewriting& rewriting, QStringList* errors)
         if (beginsTranslationExpression(whole.mid(content))) {
             const StringEnd end = valueEnd(text, content);
             if (end.kind == StringEnd::None)
-                return fail(ReadError::tr("No close \" found: %1").arg(text.mid(position)));
+                return fail(ReadFailure::QuotedExpression,
+                    ReadError::tr("No close \" found: %1").arg(text.mid(position)));
             if (commaCr.from(content) == -1 && commaLf.from(content) == -1)
-                return fail(
+                return fail(ReadFailure::QuotedExpression,
                     ReadError::tr("qsTr/QT_TRANSLATE_NOOP not closed: %1").arg(text.mid(position)));
             position = end.end;
             continue;
         }
         const StringEnd end = stringEnd(text, content);
         if (end.kind == StringEnd::None)
-            return fail(
+            return fail(ReadFailure::NoLineEnd,
                 ReadError::tr("closeMarker(%1) not found (l:%3): %2")
                     .arg(QStringLiteral("\",\r"), text.mid(position), QString::number(2985)));
         const QStringView key = whole.mid(content, end.quote - content);
@@ -212,7 +214,8 @@ bool checkStrings(const Rewriting& rewriting, QStringList* errors)
         while (lineEnd < text.size() && !isLineEnd(text, lineEnd))
             ++lineEnd;
         if (lineEnd == text.size())
-            return fail(ReadError::tr("No CR/NF found: %1").arg(text.mid(position)));
+            return fail(ReadFailure::NoLineEnd,
+                ReadError::tr("No CR/NF found: %1").arg(text.mid(position)));
         position = lineEnd + 1;
     }
     return true;
@@ -220,13 +223,29 @@ bool checkStrings(const Rewriting& rewriting, QStringList* errors)
 
 } // namespace
 
-QString TutorialEditor::escapeTranslationForJson(const QString& text, QStringList* errors)
+QString TutorialEditor::escapeTranslations(
+    const QString& text, std::optional<ReadFailure>* failure, PositionMaps* maps)
 {
     Rewriting rewriting;
     rewriting.text = text;
     for (const ExpressionForm& form : kExpressionForms) {
-        if (!rewriteExpressions(&rewriting, form, errors))
+        PositionMap map;
+        if (!rewriteExpressions(&rewriting, form, failure, maps ? &map : nullptr))
             return QString();
+        if (maps)
+            maps->append(map);
     }
-    return checkStrings(rewriting, errors) ? rewriting.text : QString();
+    return checkStrings(rewriting, failure) ? rewriting.text : QString();
+}
+
+QString TutorialEditor::escapeTranslationForJson(const QString& text, QStringList* errors)
+{
+    std::optional<ReadFailure> failure;
+    const QString json = escapeTranslations(text, &failure);
+    if (!failure)
+        return json;
+    PositionMaps maps;
+    escapeTranslations(text, &failure, &maps);
+    errors->append(describedFailure(*failure, text, originalPosition(maps, failure->position)));
+    return QString();
 }

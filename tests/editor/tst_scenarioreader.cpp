@@ -19,6 +19,8 @@ private slots:
     void script();
     void errors_data();
     void errors();
+    void places_data();
+    void places();
     void files();
 };
 
@@ -67,13 +69,12 @@ void tst_ScenarioReader::errors_data()
     const Row row = textColumns("text", "beginning");
     row("empty", "", "json is not array");
     row("where", "[{\"x\": 1}, {\"group\": [{\"x\": 1},\n{\"x\": 1 1}\n]}]",
-        "json is not array (step 1,1, unterminated object, {\"x\": 1 1})");
+        "json is not array (step 1,1, line 2, column 8)\n{\"x\": 1 1}\n       ^\n");
     row("qsTr open", "[{\n\"hint\": qsTr(\"a\"),\n\"comment\": qsTr(\"b\",\n}]",
-        "closeMarker(),\n) not found (l:2884): \n\"comment\": qsTr(\"b\",\n}] (step 0)");
+        "closeMarker(),\n) not found (l:2884): \n\"comment\": qsTr(\"b\",\n}] (step 0, line 3, column 20)");
     row("CR LF", "[{\r\n\"hint\": qsTr(\"a\")\r\n}]",
-        "closeMarker(),\n) not found (l:2884): [{\r\n\"hint\": qsTr(\"a\")\r\n}] (step 0, lines "
-        "end "
-        "with CR LF");
+        "closeMarker(),\n) not found (l:2884): [{\r\n\"hint\": qsTr(\"a\")\r\n}] (step 0, line "
+        "2, ");
     row("quoted qsTr without comma", "[{\"hint\": \"qsTr(a)\"\n}]",
         "qsTr/QT_TRANSLATE_NOOP not closed:  \"qsTr(a)\"\n}]");
     row("quoted qsTr without end", "[{\"hint\": \"qsTr(a}]", "No close \" found:  \"qsTr(a}]");
@@ -95,6 +96,49 @@ void tst_ScenarioReader::errors()
     const bool isOnly = beginning.startsWith(QLatin1String("json"));
     QCOMPARE(errors.size(), isOnly ? 1 : 2);
     QVERIFY(isOnly || errors.last() == QLatin1String("json is not array"));
+}
+
+// How the first error ends: with the place, the file's line and what is expected.
+void tst_ScenarioReader::places_data()
+{
+    const Row row = textColumns("text", "ending");
+    row("a closing backslash", R"(var scenario = [
+  {
+    "hint": "C:\",
+    "x": 1
+  }
+];)",
+        R"((step 0, line 3, column 16)
+"hint": "C:\",
+           ^
+The backslash makes this quotation mark a part of the text. Write a backslash as \\.)");
+    row("behind CR LF, tabs, comments and an emoji",
+        "// 😀\nvar scenario = [\r\n\t{\r\n\t\t\"hint\": \"ä\" /* 😀\t */ \"x\": 1\r\n\t}\r\n];",
+        "(step 0, line 4, column 14)\n\"hint\": \"ä\" /* 😀\t */ \"x\": 1\n           ^\n"
+        "A comma is missing here. Write one behind each value but the last.");
+    row("in a line that was rewritten",
+        "// a\n/* b\n */var scenario = [\n{\n\"hint\": qsTr(\"😀\"), 'x': 2,\n\"y\": 1\n}\n];",
+        "(step 0, line 5, column 20)\n\"hint\": qsTr(\"😀\"), 'x': 2,\n                    ^\n"
+        "The quotation marks are not \". Write \"…\".");
+    row("lines that end otherwise", "[\r\n{\r\n\"hint\": qsTr(\"a\"),\r\n\"y\": 1\r\n}\r\n]",
+        "(step 0, line 3, column 9)\n\"hint\": qsTr(\"a\"),\n        ^\n"
+        "Lines end with CR LF, behind an expression too. Let your text editor write LF.");
+    row("a layout that is not read", "/* a */ [{}, {\"hint\": \"a\", \"y\": 1}]",
+        "(step 0, line 1, column 23)\n/* a */ [{}, {\"hint\": \"a\", \"y\": 1}]\n"
+        "                      ^\nA line end is expected behind the last key. "
+        "Begin each key on a line of its own.");
+    row("the last key", "[\n{\n\"x\": 1\n},\n{\n\"group\": [\n{\n\"y\": 1,\n}\n]\n}\n]",
+        "(step 1,0, line 8, column 7)\n\"y\": 1,\n      ^\n"
+        "Nothing stands behind this comma. Take it out.");
+}
+
+void tst_ScenarioReader::places()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, ending);
+    QStringList errors;
+    QCOMPARE(readScenario(text, &errors), QJsonArray());
+    QCOMPARE(errors.value(0).right(ending.size()), ending);
 }
 
 void tst_ScenarioReader::files()
