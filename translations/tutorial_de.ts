@@ -758,6 +758,390 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
         <source>Only texts in quotation marks can stand in an expression</source>
         <translation>In einem Ausdruck können nur Texte in Anführungszeichen stehen</translation>
     </message>
+    <message>
+        <source>The file is not UTF-8 text</source>
+        <translation>Die Datei ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>Let your text editor convert it</source>
+        <translation>Lassen Sie sie von Ihrem Texteditor umwandeln</translation>
+    </message>
+    <message>
+        <source>There is no format “%1”</source>
+        <translation>Es gibt kein Format „%1“</translation>
+    </message>
+    <message>
+        <source>No file is named; --help tells more</source>
+        <translation>Es ist keine Datei genannt; mehr sagt --help</translation>
+    </message>
+    <message>
+        <source>There is no rule “%1”</source>
+        <translation>Es gibt keine Regel „%1“</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Yes and No lead to the same step</source>
+        <translation>Ja und Nein führen zum selben Schritt</translation>
+    </message>
+    <message>
+        <source>Give one of them another label</source>
+        <translation>Geben Sie einem davon eine andere Marke</translation>
+    </message>
+    <message>
+        <source>No question leads to the label “%1”</source>
+        <translation>Keine Frage führt zur Marke „%1“</translation>
+    </message>
+    <message>
+        <source>The label “%1” stands before as well</source>
+        <translation>Die Marke „%1“ steht schon weiter vorn</translation>
+    </message>
+    <message>
+        <source>Only the first one is found: write another</source>
+        <translation>Nur die erste wird gefunden: Schreiben Sie eine andere</translation>
+    </message>
+    <message>
+        <source>No step has the label “%1”</source>
+        <translation>Kein Schritt hat die Marke „%1“</translation>
+    </message>
+    <message>
+        <source>This step is never reached</source>
+        <translation>Dieser Schritt wird nie erreicht</translation>
+    </message>
+    <message>
+        <source>Give it a label, and let a question lead there</source>
+        <translation>Geben Sie ihm eine Marke, und lassen Sie eine Frage dorthin führen</translation>
+    </message>
+    <message>
+        <source>From here there is no way to the end</source>
+        <translation>Von hier führt kein Weg zum Ende</translation>
+    </message>
+    <message>
+        <source>Let one of the answers lead out of the loop</source>
+        <translation>Lassen Sie eine der Antworten aus der Schleife herausführen</translation>
+    </message>
+    <message>
+        <source>The group holds no step</source>
+        <translation>Die Gruppe enthält keinen Schritt</translation>
+    </message>
+    <message>
+        <source>Put steps into it, or take it out</source>
+        <translation>Legen Sie Schritte hinein, oder nehmen Sie sie heraus</translation>
+    </message>
+    <message>
+        <source>It is no JSON object</source>
+        <translation>Es ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of names</source>
+        <translation>„%1“ ist keine Liste von Namen</translation>
+    </message>
+    <message>
+        <source>Saving in the tool drops the comments: there are %1</source>
+        <translation>Das Speichern im Werkzeug verwirft die Kommentare: Es sind %1</translation>
+    </message>
+    <message>
+        <source>Put what is to stay into a step&apos;s “comment”</source>
+        <translation>Schreiben Sie, was bleiben soll, in „comment“ eines Schritts</translation>
+    </message>
+    <message>
+        <source>A step is an object, {…}</source>
+        <translation>Ein Schritt ist ein Objekt, {…}</translation>
+    </message>
+    <message>
+        <source>A step without keys is dropped</source>
+        <translation>Ein Schritt ohne Schlüssel wird verworfen</translation>
+    </message>
+    <message>
+        <source>The key “%1” stands twice in the step</source>
+        <translation>Der Schlüssel „%1“ steht zweimal im Schritt</translation>
+    </message>
+    <message>
+        <source>Only the last one counts: take the others out</source>
+        <translation>Nur der letzte zählt: Nehmen Sie die anderen heraus</translation>
+    </message>
+    <message>
+        <source>lupdate leaves out an expression in quotation marks</source>
+        <translation>lupdate lässt einen Ausdruck in Anführungszeichen aus</translation>
+    </message>
+    <message>
+        <source>Perhaps “%1” is meant</source>
+        <translation>Vielleicht ist „%1“ gemeint</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>The number stands in quotation marks, and is read as 0</source>
+        <translation>Die Zahl steht in Anführungszeichen und wird als 0 gelesen</translation>
+    </message>
+    <message>
+        <source>Write it without them</source>
+        <translation>Schreiben Sie sie ohne</translation>
+    </message>
+    <message>
+        <source>“%1” is a whole number, not %2</source>
+        <translation>„%1“ ist eine ganze Zahl, nicht: %2</translation>
+    </message>
+    <message>
+        <source>“%1” is no whole number, and is read as 0</source>
+        <translation>„%1“ ist keine ganze Zahl und wird als 0 gelesen</translation>
+    </message>
+    <message>
+        <source>Write a whole number</source>
+        <translation>Schreiben Sie eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>“option” is 0, or 1 to hide the arrow</source>
+        <translation>„option“ ist 0, oder 1, um den Pfeil zu verbergen</translation>
+    </message>
+    <message>
+        <source>Saving makes this number %1</source>
+        <translation>Das Speichern macht aus dieser Zahl %1</translation>
+    </message>
+    <message>
+        <source>Write six digits at most, or a text</source>
+        <translation>Schreiben Sie höchstens sechs Ziffern, oder einen Text</translation>
+    </message>
+    <message>
+        <source>Nothing looks at the key “%1”</source>
+        <translation>Den Schlüssel „%1“ beachtet nichts</translation>
+    </message>
+    <message>
+        <source>“%1” is no key that is known</source>
+        <translation>„%1“ ist kein bekannter Schlüssel</translation>
+    </message>
+    <message>
+        <source>There is “%1”, but no “%2”</source>
+        <translation>Es gibt „%1“, aber kein „%2“</translation>
+    </message>
+    <message>
+        <source>Give both or none</source>
+        <translation>Geben Sie beide an oder keins</translation>
+    </message>
+    <message>
+        <source>The point is outside of every screen</source>
+        <translation>Der Punkt liegt außerhalb jedes Bildschirms</translation>
+    </message>
+    <message>
+        <source>Pick it again</source>
+        <translation>Wählen Sie ihn neu</translation>
+    </message>
+    <message>
+        <source>“%1” means nothing in a group, and saving drops it</source>
+        <translation>„%1“ bedeutet in einer Gruppe nichts, und das Speichern verwirft es</translation>
+    </message>
+    <message>
+        <source>Put it into the group&apos;s steps</source>
+        <translation>Schreiben Sie es in die Schritte der Gruppe</translation>
+    </message>
+    <message>
+        <source>“group” is a list of steps, not %1</source>
+        <translation>„group“ ist eine Liste von Schritten, nicht: %1</translation>
+    </message>
+    <message>
+        <source>“%1” is a text, not %2</source>
+        <translation>„%1“ ist ein Text, nicht: %2</translation>
+    </message>
+    <message>
+        <source>Write it in quotation marks</source>
+        <translation>Schreiben Sie ihn in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>The host has no window “%1”</source>
+        <translation>Der Host hat kein Fenster „%1“</translation>
+    </message>
+    <message>
+        <source>There is no window “%1”</source>
+        <translation>Es gibt kein Fenster „%1“</translation>
+    </message>
+    <message>
+        <source>The condition lacks a parameter</source>
+        <translation>Der Bedingung fehlt ein Parameter</translation>
+    </message>
+    <message>
+        <source>The condition is never met with “%1”</source>
+        <translation>Mit „%1“ wird die Bedingung nie erfüllt</translation>
+    </message>
+    <message>
+        <source>Expected is %1</source>
+        <translation>Erwartet wird: %1</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>The host has no list “%1”</source>
+        <translation>Der Host hat keine Liste „%1“</translation>
+    </message>
+    <message>
+        <source>There is no list “%1”</source>
+        <translation>Es gibt keine Liste „%1“</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>a row, counted from 0, or -1 for any</source>
+        <translation>eine Zeile, ab 0 gezählt, oder -1 für jede</translation>
+    </message>
+    <message>
+        <source>a number, counted from 0</source>
+        <translation>eine Nummer, ab 0 gezählt</translation>
+    </message>
+    <message>
+        <source>The host has no action “%1”</source>
+        <translation>Der Host hat keine Aktion „%1“</translation>
+    </message>
+    <message>
+        <source>The host has no combo box “%1”</source>
+        <translation>Der Host hat kein Kombinationsfeld „%1“</translation>
+    </message>
+    <message>
+        <source>The host has no check box “%1”</source>
+        <translation>Der Host hat kein Kontrollkästchen „%1“</translation>
+    </message>
+    <message>
+        <source>1 for on or 0 for off</source>
+        <translation>1 für an oder 0 für aus</translation>
+    </message>
+    <message>
+        <source>The step has no condition</source>
+        <translation>Der Schritt hat keine Bedingung</translation>
+    </message>
+    <message>
+        <source>Write click, for one that ends with Next</source>
+        <translation>Schreiben Sie click, für einen, der mit Weiter endet</translation>
+    </message>
+    <message>
+        <source>There is no condition “%1”</source>
+        <translation>Es gibt keine Bedingung „%1“</translation>
+    </message>
+    <message>
+        <source>No text has such a length</source>
+        <translation>Kein Text hat eine solche Länge</translation>
+    </message>
+    <message>
+        <source>The condition was left as the form begins it</source>
+        <translation>Die Bedingung blieb so, wie das Formular sie beginnt</translation>
+    </message>
+    <message>
+        <source>Say what is waited for</source>
+        <translation>Sagen Sie, worauf gewartet wird</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”</source>
+        <translation>Es gibt keinen Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>The command lacks its parameter</source>
+        <translation>Dem Befehl fehlt sein Parameter</translation>
+    </message>
+    <message>
+        <source>Write %1,NAME</source>
+        <translation>Schreiben Sie %1,NAME</translation>
+    </message>
+    <message>
+        <source>The host knows no “%1”</source>
+        <translation>Der Host kennt kein „%1“</translation>
+    </message>
+    <message>
+        <source>“%1” is no target</source>
+        <translation>„%1“ ist kein Ziel</translation>
+    </message>
+    <message>
+        <source>Write window/widget, window/widget[row], or action:NAME</source>
+        <translation>Schreiben Sie Fenster/Widget, Fenster/Widget[Zeile] oder action:NAME</translation>
+    </message>
+    <message>
+        <source>The host has no target “%1”</source>
+        <translation>Der Host hat kein Ziel „%1“</translation>
+    </message>
+    <message>
+        <source>There is no icon “%1”</source>
+        <translation>Es gibt kein Symbol „%1“</translation>
+    </message>
+    <message>
+        <source>Close each tag</source>
+        <translation>Schließen Sie jedes Tag</translation>
+    </message>
+    <message>
+        <source>The tag &lt;%1 lacks its &gt;</source>
+        <translation>Dem Tag &lt;%1 fehlt sein &gt;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not closed</source>
+        <translation>&lt;%1&gt; ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; closes no tag</source>
+        <translation>&lt;/%1&gt; schließt kein Tag</translation>
+    </message>
+    <message>
+        <source>The hint is too long for the balloon: about %1 lines</source>
+        <translation>Der Hinweis ist zu lang für die Sprechblase: etwa %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Tell it in %1 lines, or in several steps</source>
+        <translation>Sagen Sie es in %1 Zeilen oder in mehreren Schritten</translation>
+    </message>
+    <message>
+        <source>This begins like a translation, but is none</source>
+        <translation>Das beginnt wie eine Übersetzung, ist aber keine</translation>
+    </message>
+    <message>
+        <source>lupdate leaves out QT_TRANSLATE_NOOP with one text</source>
+        <translation>lupdate lässt QT_TRANSLATE_NOOP mit nur einem Text aus</translation>
+    </message>
+    <message>
+        <source>%1 has no translation of the hint</source>
+        <translation>%1 hat keine Übersetzung des Hinweises</translation>
+    </message>
+    <message>
+        <source>Run lupdate, and translate it</source>
+        <translation>Rufen Sie lupdate auf, und übersetzen Sie ihn</translation>
+    </message>
+    <message>
+        <source>The hint cannot be translated</source>
+        <translation>Der Hinweis kann nicht übersetzt werden</translation>
+    </message>
+    <message>
+        <source>“%1” is never translated</source>
+        <translation>„%1“ wird nie übersetzt</translation>
+    </message>
+    <message>
+        <source>Write a plain text</source>
+        <translation>Schreiben Sie einen einfachen Text</translation>
+    </message>
 </context>
 <context>
     <name>TutorialTooltip</name>

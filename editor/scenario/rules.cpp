@@ -15,13 +15,11 @@ using S = Severity;
 // One row a rule, in their order.
 // clang-format off
 constexpr RuleInfo kRules[] = {
-    {"cannot-open", S::Error, "The file cannot be opened"},
     {"not-utf8", S::Error, "The file is not UTF-8 text"},
     {"no-list", S::Error, "The file holds no list of steps"},
     {"frame", S::Error, "The frame around the list is not as the reader needs it"},
     {"text-around-list", S::Error, "Text before or after the list"},
     {"too-deep", S::Error, "Groups in groups, deeper than can be read"},
-    {"read-otherwise", S::Error, "The reader takes it for something else than is written"},
 
     {"missing-comma", S::Error, "A comma is missing"},
     {"trailing-comma", S::Error, "A comma with nothing behind it"},

@@ -9,16 +9,14 @@ namespace TutorialEditor {
 // note is only good to know.
 enum class Severity { Note, Warning, Error };
 
-// What a scenario is checked for, in the order of docs/lint-rules.md.
+// What a scenario is checked for, in the order of docs/lint.md.
 enum class Rule {
     // The file
-    CannotOpen,
     NotUtf8,
     NoList,
     Frame,
     TextAroundList,
     TooDeep,
-    ReadOtherwise,
     // How it is written
     MissingComma,
     TrailingComma,

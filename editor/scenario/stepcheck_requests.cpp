@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: MIT
+#include "editor/scenario/condition.h"
+#include "editor/scenario/stepcheck.h"
+#include "editor/scenario/translationexpression.h"
+#include "tutorial/vocabulary/tutorialaction.h"
+#include "tutorial/vocabulary/vocabulary.h"
+
+#include <QRegularExpression>
+
+#include <limits>
+
+using namespace TutorialEditor;
+using namespace Tutorial;
+
+namespace {
+
+const QString kCondition = QStringLiteral("condition");
+const QString kCommand = QStringLiteral("command");
+const QString kTarget = QStringLiteral("target");
+
+const QStringList kStates = {QStringLiteral("open"), QStringLiteral("close"), QStringLiteral("ok"),
+    QStringLiteral("cancel")};
+const QStringList kMouseEvents = {QStringLiteral("click"), QStringLiteral("doubleClick")};
+const QStringList kComparisons = {QStringLiteral("="), QStringLiteral("<"), QStringLiteral("<="),
+    QStringLiteral(">"), QStringLiteral(">="), QStringLiteral("!=")};
+const QStringList kLists = {
+    QStringLiteral("listBox1"), QStringLiteral("listBox2"), QStringLiteral("Map")};
+
+// What a parameter of a condition has to be.
+enum class Is {
+    Anything,
+    Window,
+    State,
+    Seconds,
+    List,
+    ListOrAny,
+    MouseEvent,
+    Comparison,
+    Number,
+    Row, // or -1 for any
+    Index,
+    Action,
+    ComboBox,
+    CheckBox,
+    Switch
+};
+
+// One row a kind of condition, in their order.
+constexpr std::array<std::array<Is, 2>, ConditionKindCount> kParameters = {{
+    {Is::Window, Is::State}, // windowState
+    {Is::Seconds, Is::Anything}, // wait
+    {Is::List, Is::MouseEvent}, // mouseEvent
+    {Is::Comparison, Is::Number}, // textLength
+    {Is::ListOrAny, Is::Anything}, // popup
+    {Is::Row, Is::Anything}, // list
+    {Is::Anything, Is::Anything}, // click
+    {Is::Action, Is::Anything}, // action
+    {Is::Index, Is::Index}, // pressed
+    {Is::ComboBox, Is::Index}, // comboBox
+    {Is::CheckBox, Is::Switch}, // checked
+    {Is::Comparison, Is::Number}, // spinBox
+    {Is::Anything, Is::Anything}, // yesNo
+}};
+
+QStringList namesOf(int count, QString (*name)(int))
+{
+    QStringList names;
+    for (int kind = 0; kind < count; ++kind)
+        names << name(kind);
+    return names;
+}
+
+const QStringList& windowNames()
+{
+    static const QStringList names = namesOf(WindowKindCount,
+        [](int kind) { return TutorialAction::getWindowKindName(EnumWindowKind(kind)); });
+    return names;
+}
+
+const QStringList& conditionNames()
+{
+    static const QStringList names = namesOf(
+        ConditionKindCount, [](int kind) { return getConditionKindName(EnumConditionKind(kind)); });
+    return names;
+}
+
+void expectOneOf(StepProblems* problems, Rule rule, const QString& key, const QString& name,
+    const QStringList& names, const QString& message, int offset = 0)
+{
+    if (names.contains(name))
+        return;
+    Problem& problem = problems->add(rule, key, message.arg(name), suggestion(name, names));
+    problem.offset = offset;
+    problem.size = name.size();
+}
+
+void checkWindow(StepProblems* problems, const QString& key, const QString& name, int offset = 0)
+{
+    const HostNames& host = problems->options().names;
+    const bool isGiven = host.isGiven(HostNames::Windows);
+    if (isGiven ? host.contains(HostNames::Windows, name) : getWindowKind(name) != WindowKindCount)
+        return;
+    expectOneOf(problems, Rule::UnknownWindow, key, name,
+        isGiven ? host.names(HostNames::Windows) : windowNames(),
+        isGiven ? Problem::tr("The host has no window “%1”")
+                : Problem::tr("There is no window “%1”"),
+        offset);
+}
+
+// The parameters of one condition.
+class ParameterCheck {
+public:
+    ParameterCheck(const QStringList& parts, StepProblems* problems)
+        : mParts(parts), mProblems(problems)
+    {
+    }
+
+    void check(int parameter, Is is);
+
+private:
+    const HostNames& host() const { return mProblems->options().names; }
+    bool isWholeNumber(int least) const;
+    void expect(bool isSo, const QString& expected);
+    void checkName(HostNames::List list, Rule rule, const QString& message);
+    void checkList();
+
+    const QStringList mParts;
+    StepProblems* mProblems;
+    QString mName;
+    int mOffset = 0;
+};
+
+bool ParameterCheck::isWholeNumber(int least) const
+{
+    bool isNumber = false;
+    return mName.toInt(&isNumber) >= least && isNumber;
+}
+
+void ParameterCheck::expect(bool isSo, const QString& expected)
+{
+    if (isSo)
+        return;
+    Problem& problem = mProblems->add(Rule::ConditionNeverMet, kCondition,
+        mName.isEmpty() ? Problem::tr("The condition lacks a parameter")
+                        : Problem::tr("The condition is never met with “%1”").arg(mName),
+        Problem::tr("Expected is %1").arg(expected));
+    problem.offset = mOffset;
+    problem.size = mName.size();
+}
+
+void ParameterCheck::checkName(HostNames::List list, Rule rule, const QString& message)
+{
+    expect(!mName.isEmpty(), Problem::tr("a name"));
+    if (!mName.isEmpty() && host().isGiven(list) && !host().contains(list, mName))
+        expectOneOf(mProblems, rule, kCondition, mName, host().names(list), message, mOffset);
+}
+
+void ParameterCheck::checkList()
+{
+    const bool isGiven = host().isGiven(HostNames::Lists);
+    expectOneOf(mProblems, Rule::UnknownList, kCondition, mName,
+        isGiven ? host().names(HostNames::Lists) : kLists,
+        isGiven ? Problem::tr("The host has no list “%1”") : Problem::tr("There is no list “%1”"),
+        mOffset);
+}
+
+void ParameterCheck::check(int parameter, Is is)
+{
+    mName = mParts.value(parameter + 1);
+    mOffset = 0;
+    for (int i = 0; i <= parameter && i < mParts.size(); ++i)
+        mOffset += mParts.at(i).size() + 1;
+    bool isNumber = false;
+    switch (is) {
+    case Is::Anything:
+        return;
+    case Is::Window:
+        return checkWindow(mProblems, kCondition, mName, mOffset);
+    case Is::State:
+        return expect(kStates.contains(mName), kStates.join(QLatin1String(", ")));
+    case Is::Seconds:
+        return expect(mName.toDouble(&isNumber) >= 0 && isNumber, Problem::tr("seconds"));
+    case Is::ListOrAny:
+        return mName == QLatin1String("*") ? void() : checkList();
+    case Is::List:
+        return checkList();
+    case Is::MouseEvent:
+        return expect(kMouseEvents.contains(mName), kMouseEvents.join(QLatin1String(", ")));
+    case Is::Comparison:
+        return expect(kComparisons.contains(mName), kComparisons.join(QLatin1String(", ")));
+    case Is::Number:
+        return expect(
+            isWholeNumber(std::numeric_limits<int>::min()), Problem::tr("a whole number"));
+    case Is::Row:
+        return expect(isWholeNumber(-1), Problem::tr("a row, counted from 0, or -1 for any"));
+    case Is::Index:
+        return expect(isWholeNumber(0), Problem::tr("a number, counted from 0"));
+    case Is::Action:
+        return checkName(
+            HostNames::Actions, Rule::UnknownAction, Problem::tr("The host has no action “%1”"));
+    case Is::ComboBox:
+        return checkName(HostNames::ComboBoxes, Rule::UnknownComboBox,
+            Problem::tr("The host has no combo box “%1”"));
+    case Is::CheckBox:
+        return checkName(HostNames::CheckBoxes, Rule::UnknownCheckBox,
+            Problem::tr("The host has no check box “%1”"));
+    case Is::Switch:
+        return expect(mName == QLatin1String("0") || mName == QLatin1String("1"),
+            Problem::tr("1 for on or 0 for off"));
+    }
+}
+
+// A length that no text has.
+bool isNeverALength(const QString& comparison, const QString& number)
+{
+    const int length = number.toInt();
+    return (comparison == QLatin1String("<") && length <= 0)
+        || (comparison == QLatin1String("<=") && length < 0)
+        || (comparison == QLatin1String("=") && length < 0);
+}
+
+// The text that the form begins a condition with, for the kinds that say
+// nothing then.
+bool isLeftAtDefault(EnumConditionKind kind, const QStringList& parts)
+{
+    static const QSet<int> kSaysNothing = {
+        Condition_windowState, Condition_list, Condition_action, Condition_spinBox};
+    if (!kSaysNothing.contains(kind))
+        return false;
+    const auto& parameters = conditionParameters(kind);
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        if (parts.value(int(i) + 1) != QLatin1String(parameters[i].byDefault))
+            return false;
+    }
+    return true;
+}
+
+void checkCondition(const QString& text, StepProblems* problems)
+{
+    const HostNames& host = problems->options().names;
+    if (text.isEmpty()) {
+        problems->add(Rule::NoCondition, kCondition, Problem::tr("The step has no condition"),
+            Problem::tr("Write click, for one that ends with Next"));
+        return;
+    }
+    const QStringList parts = splitCondition(text);
+    const EnumConditionKind kind = getConditionKind(parts.first());
+    if (kind == ConditionKindCount) {
+        if (!host.contains(HostNames::Conditions, parts.first()))
+            expectOneOf(problems, Rule::UnknownCondition, kCondition, parts.first(),
+                conditionNames() + host.names(HostNames::Conditions),
+                Problem::tr("There is no condition “%1”"));
+        return;
+    }
+    ParameterCheck check(parts, problems);
+    for (int i = 0; i < 2; ++i)
+        check.check(i, kParameters[std::size_t(kind)][std::size_t(i)]);
+    if (kind == Condition_textLength && isNeverALength(parts.value(1), parts.value(2)))
+        problems->add(Rule::ConditionNeverMet, kCondition, Problem::tr("No text has such a length"),
+            Problem::tr("Expected is %1").arg(QStringLiteral("textLength,>=,1")));
+    if (isLeftAtDefault(kind, parts))
+        problems->add(Rule::ConditionDefault, kCondition,
+            Problem::tr("The condition was left as the form begins it"),
+            Problem::tr("Say what is waited for"));
+}
+
+void checkCommand(const QString& text, StepProblems* problems)
+{
+    const HostNames& host = problems->options().names;
+    const QString name = text.section(QLatin1Char(','), 0, 0);
+    const QString parameter = text.section(QLatin1Char(','), 1);
+    const bool isOfHost =
+        host.contains(HostNames::Commands, name) || host.contains(HostNames::Commands, text);
+    if (getCommandKind(name) == CommandKindCount) {
+        if (!isOfHost)
+            expectOneOf(problems, Rule::UnknownCommand, kCommand, name,
+                QStringList(getCommandKindName(Command_presetData)),
+                Problem::tr("There is no command “%1”"));
+    } else if (parameter.isEmpty()) {
+        problems->add(Rule::CommandNeverDone, kCommand,
+            Problem::tr("The command lacks its parameter"), Problem::tr("Write %1,NAME").arg(name));
+    } else if (host.isGiven(HostNames::Commands) && !isOfHost
+        && !host.contains(HostNames::Commands, parameter)) {
+        problems->add(Rule::UnknownCommand, kCommand,
+            Problem::tr("The host knows no “%1”").arg(parameter),
+            suggestion(parameter, host.names(HostNames::Commands)));
+    }
+}
+
+void checkTarget(const QString& text, StepProblems* problems)
+{
+    // A path of names, each with a part in brackets or without, and a place; or
+    // an action.
+    static const QRegularExpression kForm(QStringLiteral(
+        "^(action:[^/@]+|[^/@\\[\\]]+(\\[[^\\]]+\\])?(/[^/@\\[\\]]+(\\[[^\\]]+\\])?)*)"
+        "(@-?[0-9]*\\.?[0-9]+,-?[0-9]*\\.?[0-9]+)?$"));
+    const auto form = kForm.match(text);
+    if (!form.hasMatch()) {
+        problems->add(Rule::MalformedTarget, kTarget, Problem::tr("“%1” is no target").arg(text),
+            Problem::tr("Write window/widget, window/widget[row], or action:NAME"));
+        return;
+    }
+    const HostNames& host = problems->options().names;
+    static const QRegularExpression kPart(QStringLiteral("\\[[^\\]]*\\]$"));
+    const QString target = form.captured(1);
+    QString widget = target;
+    widget.remove(kPart);
+    const QString action = target.startsWith(QLatin1String("action:")) ? target.mid(7) : QString();
+    const HostNames::List list = action.isEmpty() || host.isGiven(HostNames::Targets)
+        ? HostNames::Targets
+        : HostNames::Actions;
+    if (!host.isGiven(list) || host.contains(list, text) || host.contains(list, target)
+        || host.contains(list, widget) || host.contains(HostNames::Actions, action))
+        return;
+    problems->add(Rule::UnknownTarget, kTarget,
+        Problem::tr("The host has no target “%1”").arg(text),
+        suggestion(list == HostNames::Actions ? action : target, host.names(list)));
+}
+
+} // namespace
+
+void TutorialEditor::checkRequests(const QJsonObject& step, StepProblems* problems)
+{
+    // An expression is told of as such.
+    const auto text = [&step](const QString& key) {
+        const QString value = step.value(key).toString();
+        return beginsTranslationExpression(value) ? QString() : value;
+    };
+    const QString followWindow = QStringLiteral("followWindow");
+    const QString icon = QStringLiteral("icon");
+    if (!text(followWindow).isEmpty())
+        checkWindow(problems, followWindow, text(followWindow));
+    const QJsonValue condition = step.value(kCondition);
+    if (condition.toString().isEmpty() ? condition.isUndefined() || condition.isString()
+                                       : !text(kCondition).isEmpty())
+        checkCondition(text(kCondition), problems);
+    static const QStringList icons =
+        namesOf(IconKindCount, [](int kind) { return getIconKindName(EnumIconKind(kind)); });
+    if (!text(icon).isEmpty())
+        expectOneOf(problems, Rule::UnknownIcon, icon, text(icon), icons,
+            Problem::tr("There is no icon “%1”"));
+    if (!text(kCommand).isEmpty())
+        checkCommand(text(kCommand), problems);
+    if (!text(kTarget).isEmpty())
+        checkTarget(text(kTarget), problems);
+}

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "editor/scenario/stepcheck.h"
+#include "editor/scenario/translationexpression.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace TutorialEditor;
+
+namespace {
+
+const QString kHint = QStringLiteral("hint");
+const QString kComment = QStringLiteral("comment");
+
+// Of the balloon, 256 pixels wide: letters of the usual size that stand side by
+// side, and lines that stand one above the other on a small screen.
+constexpr int kLettersPerLine = 36;
+constexpr int kLines = 24;
+
+// Tags that Qt's rich text knows and that have to be closed, and those that
+// need not be, or cannot.
+const QStringList kPaired = QStringLiteral(
+    "a address b big blockquote body center cite code dfn div em font h1 h2 h3 h4 h5 h6 html i kbd "
+    "nobr ol pre qt s samp small span strong sub sup table tt u ul var")
+                                .split(QLatin1Char(' '));
+const QStringList kOthers =
+    QStringLiteral("br hr img p li tr td th dd dt dl thead tbody tfoot head title meta style")
+        .split(QLatin1Char(' '));
+
+void addTagProblem(StepProblems* problems, const QString& message, const QString& tag)
+{
+    problems->add(Rule::OpenTag, kHint, message.arg(tag), Problem::tr("Close each tag"));
+}
+
+// Tags have to be closed in the opposite order.
+void checkTags(const QString& text, StepProblems* problems)
+{
+    if (!text.contains(QLatin1Char('<')))
+        return;
+    static const QRegularExpression kTag(
+        QStringLiteral("<(/?)([A-Za-z][A-Za-z0-9]*)((?:\\s[^<>]*)?)(/?)(>?)"));
+    QStringList open;
+    for (auto it = kTag.globalMatch(text); it.hasNext();) {
+        const auto match = it.next();
+        const QString name = match.captured(2).toLower();
+        const bool isPaired = kPaired.contains(name);
+        if (!isPaired && !kOthers.contains(name))
+            continue;
+        if (match.capturedLength(5) == 0)
+            return addTagProblem(problems, Problem::tr("The tag <%1 lacks its >"), name);
+        if (!isPaired || match.capturedLength(4) > 0)
+            continue;
+        if (match.capturedLength(1) == 0)
+            open << name;
+        else if (open.isEmpty() || open.last() != name)
+            return open.contains(name)
+                ? addTagProblem(problems, Problem::tr("<%1> is not closed"), open.last())
+                : addTagProblem(problems, Problem::tr("</%1> closes no tag"), name);
+        else
+            open.removeLast();
+    }
+    if (!open.isEmpty())
+        addTagProblem(problems, Problem::tr("<%1> is not closed"), open.last());
+}
+
+QString withoutTags(const QString& text)
+{
+    static const QRegularExpression kBreak(QStringLiteral("<(br|p|/p|li|tr|/h[1-6])\\b[^<>]*>"),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression kTag(QStringLiteral("</?[A-Za-z][^<>]*>"));
+    if (!text.contains(QLatin1Char('<')))
+        return text;
+    return QString(text).replace(kBreak, QStringLiteral("\n")).remove(kTag);
+}
+
+void checkLength(const QString& shown, StepProblems* problems)
+{
+    if (shown.size() <= kLettersPerLine * kLines && shown.count(QLatin1Char('\n')) <= kLines)
+        return;
+    int lines = 0;
+    for (const QString& paragraph : shown.split(QLatin1Char('\n'))) {
+        // East Asian characters are as wide as two letters.
+        const auto wide = std::count_if(paragraph.begin(), paragraph.end(),
+            [](QChar character) { return character >= QChar(0x2E80); });
+        lines += 1 + (paragraph.size() + int(wide)) / kLettersPerLine;
+    }
+    if (lines > kLines)
+        problems->add(Rule::HintTooLong, kHint,
+            Problem::tr("The hint is too long for the balloon: about %1 lines").arg(lines),
+            Problem::tr("Tell it in %1 lines, or in several steps").arg(kLines));
+}
+
+// A hint or a comment that begins like an expression.
+bool checkExpression(const QString& key, const QString& text, StepProblems* problems,
+    TranslationExpression* expression)
+{
+    if (!parseTranslationExpression(text, expression)) {
+        problems->add(Rule::HalfExpression, key,
+            Problem::tr("This begins like a translation, but is none"),
+            Problem::tr("Write qsTr(\"…\")"));
+        return false;
+    }
+    QVector<QStringView> texts;
+    translationExpressionEnd(text.trimmed(), 0, &texts);
+    if (texts.size() == 1 && text.trimmed().startsWith(QLatin1String("QT_")))
+        problems->add(Rule::NoopOneArgument, key,
+            Problem::tr("lupdate leaves out QT_TRANSLATE_NOOP with one text"),
+            Problem::tr("Write qsTr(\"…\")"));
+    return true;
+}
+
+void checkTranslations(const TranslationExpression& expression, StepProblems* problems)
+{
+    for (const TranslationCatalog& catalog : problems->options().translations) {
+        if (!catalog.contains(expression, problems->options().context))
+            problems->add(Rule::TranslationMissing, kHint,
+                Problem::tr("%1 has no translation of the hint").arg(catalog.name()),
+                Problem::tr("Run lupdate, and translate it"));
+    }
+}
+
+bool hasLetters(const QString& text)
+{
+    return std::any_of(
+        text.begin(), text.end(), [](QChar character) { return character.isLetter(); });
+}
+
+void checkHint(const QString& hint, bool isGroup, StepProblems* problems)
+{
+    TranslationExpression expression;
+    const bool isExpression = beginsTranslationExpression(hint);
+    if (isExpression && !checkExpression(kHint, hint, problems, &expression))
+        return;
+    // A group's name is for authors, and need not be translated.
+    if (isGroup)
+        return;
+    const QString text = isExpression ? expression.sourceText : hint;
+    const QString shown = withoutTags(text);
+    if (isExpression)
+        checkTranslations(expression, problems);
+    else if (hasLetters(shown))
+        problems->add(Rule::NotTranslatable, kHint, Problem::tr("The hint cannot be translated"),
+            Problem::tr("Write qsTr(\"…\")"));
+    checkTags(text, problems);
+    checkLength(shown, problems);
+}
+
+} // namespace
+
+void TutorialEditor::checkTexts(const QJsonObject& step, bool isGroup, StepProblems* problems)
+{
+    for (auto it = step.begin(); it != step.end(); ++it) {
+        const QString text = it.value().toString();
+        if (text.isEmpty())
+            continue;
+        TranslationExpression expression;
+        if (it.key() == kHint)
+            checkHint(text, isGroup, problems);
+        else if (!beginsTranslationExpression(text))
+            continue;
+        else if (it.key() == kComment)
+            checkExpression(kComment, text, problems, &expression);
+        else
+            problems->add(Rule::ExpressionElsewhere, it.key(),
+                Problem::tr("“%1” is never translated").arg(it.key()),
+                Problem::tr("Write a plain text"));
+    }
+}
