@@ -124,7 +124,7 @@ void SourceCheck::checkStep(int object, const QJsonObject& read)
         ++count;
         if (member.kind == SourceNode::Array && isKey(i, kGroup))
             checkLevel(i, read.value(kGroup).toArray());
-        else if (member.kind == SourceNode::String && !mRead.failure)
+        else if (member.kind == SourceNode::String)
             checkQuotes(i);
     }
     if (count != read.size())
@@ -146,6 +146,9 @@ void SourceCheck::checkDuplicates(int object)
 
 void SourceCheck::checkQuotes(int node)
 {
+    // That it keeps the reader from reading was told.
+    if (mRead.failure && mRead.failure->kind == ReadFailure::QuotedExpression)
+        return;
     const SourceNode& text = mSource.node(node);
     if (isAt(mSource.text(), text.begin + 1, 'q') || isAt(mSource.text(), text.begin + 1, 'Q')) {
         if (!isKey(node, kHint) && !isKey(node, kComment))
