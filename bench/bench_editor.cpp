@@ -5,6 +5,7 @@
 #include "editor/document/recoverycopy.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
+#include "editor/scenario/checker.h"
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/scenariowriter.h"
 
@@ -100,6 +101,37 @@ bool report(const QString& subject, double ours, double floor, double limit)
         QStringLiteral("at most %1 x").arg(limit), ours <= limit * floor);
 }
 
+// The checker, of a file and after a change in memory.
+bool measureChecks()
+{
+    const QString text = scenarioFileText(scenarioJson(steps(kManySteps)));
+    QStringList errors;
+    const bool kept = report(QStringLiteral("checking 100,000 steps, to reading them"),
+        medianMs([&] { Checker::checkText(text); }), medianMs([&] { readScenario(text, &errors); }),
+        3);
+
+    // In the worst case each step has a problem, and labels change.
+    QJsonArray array = steps(kSteps);
+    Checker checker;
+    checker.setSteps(array);
+    QJsonObject changed = step(kSteps / 2);
+    changed[QStringLiteral("author")] = QStringLiteral("Ada");
+    for (int i = 0; i < kSteps; ++i)
+        checker.setStep({i}, changed);
+    constexpr double kLimit = 30;
+    int change = 0;
+    const double time = medianMs([&] {
+        changed[QStringLiteral("label")] = QString::number(++change);
+        checker.setStep({kSteps / 2}, changed);
+        if (checker.problems().size() < kSteps)
+            qFatal("problems are missing");
+    });
+    return reportRow(QStringLiteral("checking after a change, 10,000 steps"),
+               QStringLiteral("%1 ms").arg(time, 0, 'f', 1), QStringLiteral("-"),
+               QStringLiteral("-"), QStringLiteral("at most 30 ms"), time <= kLimit)
+        && kept;
+}
+
 bool measureFiles()
 {
     bool kept = true;
@@ -121,6 +153,8 @@ bool measureFiles()
         }
     }
     kept &= report(QStringLiteral("loading 100,000 steps, to 10,000"), loadMs[1], loadMs[0], 12);
+
+    kept &= measureChecks();
 
     const auto comments = [](int count) {
         return QStringLiteral("    // a comment\n    \"x\": 1, /* another */\n").repeated(count);

@@ -6,6 +6,7 @@
 #include "editor/model/treeview.h"
 #include "editor/model/tutorialitem.h"
 #include "editor/scenario/debuglog.h"
+#include "editor/scenario/pastedsteps.h"
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/scenariowriter.h"
 #include "tutorial/runtime/tutorialmanager.h"
@@ -155,6 +156,8 @@ void Dialog::onPasteTriggered()
         errors.clear();
         steps = parseSteps(QString::fromUtf8(content->data(kStepsFormat)), &errors);
     }
+    if (!errors.isEmpty() && readPastedSteps(content->text(), &steps))
+        errors.clear();
     const TutorialItem* anchor = mModel->itemAt(selected.first());
     if (errors.isEmpty() && !anchor->isEndMarker())
         mModel->insertJsonRow(

@@ -4,7 +4,7 @@
 # breaks a rule ends its fuzzer and is put into build/asan/findings; give the
 # file to the program, build/asan/bin/fuzz_TARGET, to see it again.
 #
-#   scripts/fuzz.sh [SECONDS [TARGET ...]]     (60 link scenario step untr)
+#   scripts/fuzz.sh [SECONDS [TARGET ...]]     (60 check link scenario step untr)
 #
 # TUTORIAL_SKIP_BOOTSTRAP: set it to leave the system's packages alone.
 set -eu
@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 
 seconds=${1:-60}
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(link scenario step untr)
+[ ${#targets[@]} -gt 0 ] || targets=(check link scenario step untr)
 
 [ -n "${TUTORIAL_SKIP_BOOTSTRAP:-}" ] || scripts/bootstrap.sh
 cmake --preset asan -DTUTORIAL_FUZZ_SECONDS="$seconds" >/dev/null

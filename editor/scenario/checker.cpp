@@ -249,8 +249,11 @@ void Checker::read(Node* node, const QJsonObject& step) const
     const bool isGroup = step.contains(kGroup) || node->isGroup;
     const QString label = step.value(kLabel).toString();
     QVector<Jump> jumps;
-    const QStringList parts = splitCondition(step.value(kCondition).toString());
-    if (!isGroup && Tutorial::getConditionKind(parts.first()) == Tutorial::Condition_yesNo) {
+    const QString condition = step.value(kCondition).toString();
+    const QString kind = Tutorial::getConditionKindName(Tutorial::Condition_yesNo);
+    const QStringList parts =
+        condition.startsWith(kind) ? splitCondition(condition) : QStringList();
+    if (!isGroup && parts.value(0) == kind) {
         const int second = int(parts.first().size()) + 1;
         jumps = {
             {parts.value(1), second}, {parts.value(2), second + int(parts.value(1).size()) + 1}};

@@ -142,7 +142,7 @@ int SourceParser::parseText()
 int SourceParser::parseNumber()
 {
     static const QRegularExpression kNumber(
-        QStringLiteral("\\G-?(0|[1-9][0-9]*)(\\.[0-9]+)?([eE][+-]?[0-9]+)?(?![\\w.])"));
+        QStringLiteral("^-?(0|[1-9][0-9]*)(\\.[0-9]+)?([eE][+-]?[0-9]+)?(?![\\w.])"));
     const int node = addNode(SourceNode::Number);
     const int begin = mScanner.position();
     // Most are whole ones.
@@ -153,14 +153,14 @@ int SourceParser::parseNumber()
     const bool isPlain = end > begin && mScanner.at(begin) != QLatin1Char('0')
         && (behind == QLatin1Char(',') || behind == QLatin1Char('\n'));
     if (!isPlain) {
-        const auto number = kNumber.match(mScanner.text(), begin);
-        end = number.hasMatch() ? number.capturedEnd() : begin;
+        const auto number = kNumber.match(mScanner.rest(begin));
+        end = begin + number.capturedLength();
     }
     mScanner.moveTo(end);
     if (end > begin)
         return node;
-    static const QRegularExpression kLikeNumber(QStringLiteral("\\G[\\w.+-]*"));
-    end = kLikeNumber.match(mScanner.text(), begin).capturedEnd();
+    static const QRegularExpression kLikeNumber(QStringLiteral("^[\\w.+-]*"));
+    end = qMax(begin + 1, begin + int(kLikeNumber.match(mScanner.rest(begin)).capturedLength()));
     mScanner.moveTo(end);
     mScanner.report(Rule::BadValue, begin, end,
         Problem::tr("“%1” is no number").arg(mScanner.text().mid(begin, end - begin)),
@@ -195,10 +195,10 @@ int SourceParser::parseWord()
             Problem::tr("Write \"%1\"").arg(name));
         return node;
     }
-    static const QRegularExpression kCall(QStringLiteral("\\G[ \\t]*\\((.{0,200}\\))?"));
-    const auto call = kCall.match(mScanner.text(), end);
+    static const QRegularExpression kCall(QStringLiteral("^[ \\t]*\\((.{0,200}\\))?"));
+    const auto call = kCall.match(mScanner.rest(end));
     if (call.hasMatch()) {
-        mScanner.moveTo(call.capturedEnd());
+        mScanner.moveTo(end + call.capturedLength());
         mScanner.report(Rule::BadExpression, begin, end,
             isExpression ? Problem::tr("Between %1 and ( may be no blank").arg(name)
                          : Problem::tr("“%1” is no translation").arg(name),
@@ -219,14 +219,14 @@ int SourceParser::parseOther()
         mScanner.skipOtherQuotes(SourceScanner::Role::Value);
         return node;
     }
-    static const QRegularExpression kRest(QStringLiteral("\\G[^,}\\]\\n]*"));
-    const auto rest = kRest.match(mScanner.text(), begin);
-    mScanner.moveTo(rest.capturedEnd());
+    static const QRegularExpression kRest(QStringLiteral("^[^,}\\]\\n]*"));
+    const auto rest = kRest.match(mScanner.rest(begin));
+    mScanner.moveTo(begin + rest.capturedLength());
     if (rest.capturedLength() == 0)
         mScanner.report(Rule::BadValue, begin, begin + 1, Problem::tr("A value is missing"),
             Problem::tr("Write \"\" for an empty text"));
     else
-        mScanner.report(Rule::BadValue, begin, rest.capturedEnd(),
+        mScanner.report(Rule::BadValue, begin, mScanner.position(),
             Problem::tr("“%1” is neither a text nor a number").arg(rest.captured().trimmed()));
     return node;
 }

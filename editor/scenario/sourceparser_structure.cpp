@@ -166,9 +166,9 @@ bool SourceParser::parseKey(SourceNode* key)
                      : Problem::tr("The key “%1” has no quotation marks").arg(name),
             Problem::tr("Write \"%1\"").arg(name));
     } else {
-        static const QRegularExpression kRest(QStringLiteral("\\G[^\\s,}\\]]+"));
-        const auto rest = kRest.match(mScanner.text(), key->keyBegin);
-        mScanner.moveTo(qMax(rest.capturedEnd(), key->keyBegin + 1));
+        static const QRegularExpression kRest(QStringLiteral("^[^\\s,}\\]]+"));
+        const auto rest = kRest.match(mScanner.rest(key->keyBegin));
+        mScanner.moveTo(key->keyBegin + qMax(int(rest.capturedLength()), 1));
         mScanner.report(Rule::UnquotedKey, key->keyBegin, mScanner.position(),
             Problem::tr("A key in quotation marks is expected instead of “%1”")
                 .arg(rest.captured()));
@@ -262,10 +262,12 @@ void SourceParser::skipSum(int value)
 // it missing.
 bool SourceParser::isExtraBracket(QChar close, int previousEnd) const
 {
-    static const QRegularExpression kObjectEnds(QStringLiteral("\\G\\][\\s]*\\}"));
     if (close == QLatin1Char('}'))
         return mScanner.isOnOneLine(previousEnd, mScanner.position());
-    return kObjectEnds.match(mScanner.text(), mScanner.position()).hasMatch();
+    int next = mScanner.position() + 1;
+    while (mScanner.at(next).isSpace())
+        ++next;
+    return mScanner.at(next) == QLatin1Char('}');
 }
 
 void SourceParser::skipExtraBracket()

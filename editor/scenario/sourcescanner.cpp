@@ -39,6 +39,18 @@ int SourceScanner::lineEnd(int position) const
     return end == -1 ? mText.size() : end;
 }
 
+QString SourceScanner::rest(int position) const
+{
+    constexpr int kMost = 1000;
+    const int limit = qMin(position + kMost, int(mText.size()));
+    int end = position;
+    while (end < limit && mText.at(end) != kLf)
+        ++end;
+    if (end < mText.size() && end > position && mText.at(end).isLowSurrogate())
+        --end;
+    return mText.mid(position, end - position);
+}
+
 bool SourceScanner::isOnOneLine(int begin, int end) const
 {
     return !QStringView(mText).mid(begin, end - begin).contains(kLf);

@@ -38,6 +38,9 @@ public:
         return QStringView(mText).mid(mPosition).startsWith(text);
     }
     int lineEnd(int position) const;
+    // The rest of the line, or the begin of it when it is very long. To match an
+    // expression against the whole text would take a way through all of it.
+    QString rest(int position) const;
     bool isOnOneLine(int begin, int end) const;
 
     void moveTo(int position);

@@ -101,10 +101,8 @@ void SourceScanner::checkEscape(int backslash, Role role)
 bool SourceScanner::looksLikeNewLine(int position) const
 {
     static const QRegularExpression kLine(
-        QStringLiteral(
-            "\\G[ \\t\\r]*($|//|/\\*|[\\[\\]{}]|\"[^\"\\n]*\"[ \\t]*:|'?\\w+'?[ \\t]*:)"),
-        QRegularExpression::MultilineOption);
-    return position >= mText.size() || kLine.match(mText, position).hasMatch();
+        QStringLiteral("^[ \\t\\r]*($|//|/\\*|[\\[\\]{}]|\"[^\"\\n]*\"[ \\t]*:|'?\\w+'?[ \\t]*:)"));
+    return position >= mText.size() || kLine.match(rest(position)).hasMatch();
 }
 
 // Whether a text that is open at the end of its line is closed in a later one.
@@ -191,8 +189,8 @@ bool SourceScanner::isOtherQuote() const
 
 bool SourceScanner::isKeyNext() const
 {
-    static const QRegularExpression kKey(QStringLiteral("\\G\"[^\"\\n]*\"[ \\t]*:"));
-    return kKey.match(mText, mPosition).hasMatch();
+    static const QRegularExpression kKey(QStringLiteral("^\"[^\"\\n]*\"[ \\t]*:"));
+    return kKey.match(rest(mPosition)).hasMatch();
 }
 
 void SourceScanner::skipOtherQuotes(Role role)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "editor/scenario/stepcheck.h"
+#include "editor/scenario/translationexpression.h"
 #include "tutorial/vocabulary/vocabulary.h"
 
 #include <QStringList>
@@ -18,6 +19,8 @@ const QString kX = QStringLiteral("x");
 const QString kY = QStringLiteral("y");
 const QString kOption = QStringLiteral("option");
 const QString kGroup = QStringLiteral("group");
+const QString kHint = QStringLiteral("hint");
+const QString kComment = QStringLiteral("comment");
 const QStringList kTextKeys = {QStringLiteral("followWindow"), QStringLiteral("comment"),
     QStringLiteral("condition"), QStringLiteral("hint"), QStringLiteral("icon"),
     QStringLiteral("label"), QStringLiteral("command"), QStringLiteral("target")};
@@ -166,6 +169,11 @@ void TutorialEditor::checkKeys(const QJsonObject& step, bool isGroup, StepProble
                 Problem::tr("Write it in quotation marks"));
         }
         checkRounding(key, value, problems);
+        if (value.isString() && key != kHint && key != kComment
+            && beginsTranslationExpression(value.toString()))
+            problems->add(Rule::ExpressionElsewhere, key,
+                Problem::tr("“%1” is never translated").arg(key),
+                Problem::tr("Write a plain text"));
     }
     if (!isGroup)
         checkPoint(step, problems);

@@ -14,6 +14,8 @@ using namespace Tutorial;
 
 namespace {
 
+const QString kFollowWindow = QStringLiteral("followWindow");
+const QString kIcon = QStringLiteral("icon");
 const QString kCondition = QStringLiteral("condition");
 const QString kCommand = QStringLiteral("command");
 const QString kTarget = QStringLiteral("target");
@@ -84,11 +86,10 @@ const QStringList& conditionNames()
     return names;
 }
 
-void expectOneOf(StepProblems* problems, Rule rule, const QString& key, const QString& name,
+// A name that is none of these.
+void addUnknown(StepProblems* problems, Rule rule, const QString& key, const QString& name,
     const QStringList& names, const QString& message, int offset = 0)
 {
-    if (names.contains(name))
-        return;
     Problem& problem = problems->add(rule, key, message.arg(name), suggestion(name, names));
     problem.offset = offset;
     problem.size = name.size();
@@ -100,7 +101,7 @@ void checkWindow(StepProblems* problems, const QString& key, const QString& name
     const bool isGiven = host.isGiven(HostNames::Windows);
     if (isGiven ? host.contains(HostNames::Windows, name) : getWindowKind(name) != WindowKindCount)
         return;
-    expectOneOf(problems, Rule::UnknownWindow, key, name,
+    addUnknown(problems, Rule::UnknownWindow, key, name,
         isGiven ? host.names(HostNames::Windows) : windowNames(),
         isGiven ? Problem::tr("The host has no window “%1”")
                 : Problem::tr("There is no window “%1”"),
@@ -120,7 +121,7 @@ public:
 private:
     const HostNames& host() const { return mProblems->options().names; }
     bool isWholeNumber(int least) const;
-    void expect(bool isSo, const QString& expected);
+    void reject(const QString& expected);
     void checkName(HostNames::List list, Rule rule, const QString& message);
     void checkList();
 
@@ -136,10 +137,8 @@ bool ParameterCheck::isWholeNumber(int least) const
     return mName.toInt(&isNumber) >= least && isNumber;
 }
 
-void ParameterCheck::expect(bool isSo, const QString& expected)
+void ParameterCheck::reject(const QString& expected)
 {
-    if (isSo)
-        return;
     Problem& problem = mProblems->add(Rule::ConditionNeverMet, kCondition,
         mName.isEmpty() ? Problem::tr("The condition lacks a parameter")
                         : Problem::tr("The condition is never met with “%1”").arg(mName),
@@ -150,15 +149,18 @@ void ParameterCheck::expect(bool isSo, const QString& expected)
 
 void ParameterCheck::checkName(HostNames::List list, Rule rule, const QString& message)
 {
-    expect(!mName.isEmpty(), Problem::tr("a name"));
-    if (!mName.isEmpty() && host().isGiven(list) && !host().contains(list, mName))
-        expectOneOf(mProblems, rule, kCondition, mName, host().names(list), message, mOffset);
+    if (mName.isEmpty())
+        reject(Problem::tr("a name"));
+    else if (host().isGiven(list) && !host().contains(list, mName))
+        addUnknown(mProblems, rule, kCondition, mName, host().names(list), message, mOffset);
 }
 
 void ParameterCheck::checkList()
 {
     const bool isGiven = host().isGiven(HostNames::Lists);
-    expectOneOf(mProblems, Rule::UnknownList, kCondition, mName,
+    if (isGiven ? host().contains(HostNames::Lists, mName) : kLists.contains(mName))
+        return;
+    addUnknown(mProblems, Rule::UnknownList, kCondition, mName,
         isGiven ? host().names(HostNames::Lists) : kLists,
         isGiven ? Problem::tr("The host has no list “%1”") : Problem::tr("There is no list “%1”"),
         mOffset);
@@ -177,24 +179,28 @@ void ParameterCheck::check(int parameter, Is is)
     case Is::Window:
         return checkWindow(mProblems, kCondition, mName, mOffset);
     case Is::State:
-        return expect(kStates.contains(mName), kStates.join(QLatin1String(", ")));
+        return kStates.contains(mName) ? void() : reject(kStates.join(QLatin1String(", ")));
     case Is::Seconds:
-        return expect(mName.toDouble(&isNumber) >= 0 && isNumber, Problem::tr("seconds"));
+        return mName.toDouble(&isNumber) >= 0 && isNumber ? void() : reject(Problem::tr("seconds"));
     case Is::ListOrAny:
         return mName == QLatin1String("*") ? void() : checkList();
     case Is::List:
         return checkList();
     case Is::MouseEvent:
-        return expect(kMouseEvents.contains(mName), kMouseEvents.join(QLatin1String(", ")));
+        return kMouseEvents.contains(mName) ? void()
+                                            : reject(kMouseEvents.join(QLatin1String(", ")));
     case Is::Comparison:
-        return expect(kComparisons.contains(mName), kComparisons.join(QLatin1String(", ")));
+        return kComparisons.contains(mName) ? void()
+                                            : reject(kComparisons.join(QLatin1String(", ")));
     case Is::Number:
-        return expect(
-            isWholeNumber(std::numeric_limits<int>::min()), Problem::tr("a whole number"));
+        return isWholeNumber(std::numeric_limits<int>::min())
+            ? void()
+            : reject(Problem::tr("a whole number"));
     case Is::Row:
-        return expect(isWholeNumber(-1), Problem::tr("a row, counted from 0, or -1 for any"));
+        return isWholeNumber(-1) ? void()
+                                 : reject(Problem::tr("a row, counted from 0, or -1 for any"));
     case Is::Index:
-        return expect(isWholeNumber(0), Problem::tr("a number, counted from 0"));
+        return isWholeNumber(0) ? void() : reject(Problem::tr("a number, counted from 0"));
     case Is::Action:
         return checkName(
             HostNames::Actions, Rule::UnknownAction, Problem::tr("The host has no action “%1”"));
@@ -205,8 +211,9 @@ void ParameterCheck::check(int parameter, Is is)
         return checkName(HostNames::CheckBoxes, Rule::UnknownCheckBox,
             Problem::tr("The host has no check box “%1”"));
     case Is::Switch:
-        return expect(mName == QLatin1String("0") || mName == QLatin1String("1"),
-            Problem::tr("1 for on or 0 for off"));
+        return mName == QLatin1String("0") || mName == QLatin1String("1")
+            ? void()
+            : reject(Problem::tr("1 for on or 0 for off"));
     }
 }
 
@@ -238,16 +245,11 @@ bool isLeftAtDefault(EnumConditionKind kind, const QStringList& parts)
 void checkCondition(const QString& text, StepProblems* problems)
 {
     const HostNames& host = problems->options().names;
-    if (text.isEmpty()) {
-        problems->add(Rule::NoCondition, kCondition, Problem::tr("The step has no condition"),
-            Problem::tr("Write click, for one that ends with Next"));
-        return;
-    }
     const QStringList parts = splitCondition(text);
     const EnumConditionKind kind = getConditionKind(parts.first());
     if (kind == ConditionKindCount) {
         if (!host.contains(HostNames::Conditions, parts.first()))
-            expectOneOf(problems, Rule::UnknownCondition, kCondition, parts.first(),
+            addUnknown(problems, Rule::UnknownCondition, kCondition, parts.first(),
                 conditionNames() + host.names(HostNames::Conditions),
                 Problem::tr("There is no condition “%1”"));
         return;
@@ -273,7 +275,7 @@ void checkCommand(const QString& text, StepProblems* problems)
         host.contains(HostNames::Commands, name) || host.contains(HostNames::Commands, text);
     if (getCommandKind(name) == CommandKindCount) {
         if (!isOfHost)
-            expectOneOf(problems, Rule::UnknownCommand, kCommand, name,
+            addUnknown(problems, Rule::UnknownCommand, kCommand, name,
                 QStringList(getCommandKindName(Command_presetData)),
                 Problem::tr("There is no command “%1”"));
     } else if (parameter.isEmpty()) {
@@ -326,21 +328,24 @@ void TutorialEditor::checkRequests(const QJsonObject& step, StepProblems* proble
         const QString value = step.value(key).toString();
         return beginsTranslationExpression(value) ? QString() : value;
     };
-    const QString followWindow = QStringLiteral("followWindow");
-    const QString icon = QStringLiteral("icon");
-    if (!text(followWindow).isEmpty())
-        checkWindow(problems, followWindow, text(followWindow));
-    const QJsonValue condition = step.value(kCondition);
-    if (condition.toString().isEmpty() ? condition.isUndefined() || condition.isString()
-                                       : !text(kCondition).isEmpty())
-        checkCondition(text(kCondition), problems);
-    static const QStringList icons =
-        namesOf(IconKindCount, [](int kind) { return getIconKindName(EnumIconKind(kind)); });
-    if (!text(icon).isEmpty())
-        expectOneOf(problems, Rule::UnknownIcon, icon, text(icon), icons,
+    const QString window = text(kFollowWindow);
+    if (!window.isEmpty())
+        checkWindow(problems, kFollowWindow, window);
+    const QString condition = text(kCondition);
+    if (!condition.isEmpty())
+        checkCondition(condition, problems);
+    else if (!step.contains(kCondition) || step.value(kCondition) == QString())
+        problems->add(Rule::NoCondition, kCondition, Problem::tr("The step has no condition"),
+            Problem::tr("Write click, for one that ends with Next"));
+    const QString icon = text(kIcon);
+    if (!icon.isEmpty() && getIconKind(icon) == IconKindCount)
+        addUnknown(problems, Rule::UnknownIcon, kIcon, icon,
+            namesOf(IconKindCount, [](int kind) { return getIconKindName(EnumIconKind(kind)); }),
             Problem::tr("There is no icon “%1”"));
-    if (!text(kCommand).isEmpty())
-        checkCommand(text(kCommand), problems);
-    if (!text(kTarget).isEmpty())
-        checkTarget(text(kTarget), problems);
+    const QString command = text(kCommand);
+    if (!command.isEmpty())
+        checkCommand(command, problems);
+    const QString target = text(kTarget);
+    if (!target.isEmpty())
+        checkTarget(target, problems);
 }

@@ -74,12 +74,15 @@ QString withoutTags(const QString& text)
     return QString(text).replace(kBreak, QStringLiteral("\n")).remove(kTag);
 }
 
-void checkLength(const QString& shown, StepProblems* problems)
+void checkLength(const QString& text, StepProblems* problems)
 {
-    if (shown.size() <= kLettersPerLine * kLines && shown.count(QLatin1Char('\n')) <= kLines)
+    // As a tag begins a line at most, and a character is as wide as two at most.
+    const int atMost = 1 + text.count(QLatin1Char('\n')) + text.count(QLatin1Char('<'))
+        + 2 * int(text.size()) / kLettersPerLine;
+    if (atMost <= kLines)
         return;
     int lines = 0;
-    for (const QString& paragraph : shown.split(QLatin1Char('\n'))) {
+    for (const QString& paragraph : withoutTags(text).split(QLatin1Char('\n'))) {
         // East Asian characters are as wide as two letters.
         const auto wide = std::count_if(paragraph.begin(), paragraph.end(),
             [](QChar character) { return character >= QChar(0x2E80); });
@@ -102,8 +105,10 @@ bool checkExpression(const QString& key, const QString& text, StepProblems* prob
         return false;
     }
     QVector<QStringView> texts;
-    translationExpressionEnd(text.trimmed(), 0, &texts);
-    if (texts.size() == 1 && text.trimmed().startsWith(QLatin1String("QT_")))
+    const QString trimmed = text.trimmed();
+    if (trimmed.startsWith(QLatin1String("QT_")))
+        translationExpressionEnd(trimmed, 0, &texts);
+    if (texts.size() == 1)
         problems->add(Rule::NoopOneArgument, key,
             Problem::tr("lupdate leaves out QT_TRANSLATE_NOOP with one text"),
             Problem::tr("Write qsTr(\"…\")"));
@@ -136,34 +141,24 @@ void checkHint(const QString& hint, bool isGroup, StepProblems* problems)
     if (isGroup)
         return;
     const QString text = isExpression ? expression.sourceText : hint;
-    const QString shown = withoutTags(text);
     if (isExpression)
         checkTranslations(expression, problems);
-    else if (hasLetters(shown))
+    else if (hasLetters(withoutTags(text)))
         problems->add(Rule::NotTranslatable, kHint, Problem::tr("The hint cannot be translated"),
             Problem::tr("Write qsTr(\"…\")"));
     checkTags(text, problems);
-    checkLength(shown, problems);
+    checkLength(text, problems);
 }
 
 } // namespace
 
 void TutorialEditor::checkTexts(const QJsonObject& step, bool isGroup, StepProblems* problems)
 {
-    for (auto it = step.begin(); it != step.end(); ++it) {
-        const QString text = it.value().toString();
-        if (text.isEmpty())
-            continue;
-        TranslationExpression expression;
-        if (it.key() == kHint)
-            checkHint(text, isGroup, problems);
-        else if (!beginsTranslationExpression(text))
-            continue;
-        else if (it.key() == kComment)
-            checkExpression(kComment, text, problems, &expression);
-        else
-            problems->add(Rule::ExpressionElsewhere, it.key(),
-                Problem::tr("“%1” is never translated").arg(it.key()),
-                Problem::tr("Write a plain text"));
-    }
+    const QString hint = step.value(kHint).toString();
+    if (!hint.isEmpty())
+        checkHint(hint, isGroup, problems);
+    const QString comment = step.value(kComment).toString();
+    TranslationExpression expression;
+    if (beginsTranslationExpression(comment))
+        checkExpression(kComment, comment, problems, &expression);
 }

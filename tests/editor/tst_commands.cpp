@@ -50,6 +50,7 @@ private slots:
     void commands_data();
     void commands();
     void copiedTextIsExact();
+    void pasteFromTextEditor();
     void groupingSurvivesTheFile();
     void randomWalk();
 };
@@ -112,6 +113,18 @@ void tst_Commands::copiedTextIsExact()
     scenario.tree()->clearSelection();
     pressKeys(scenario, "x"_s);
     QCOMPARE(QGuiApplication::clipboard()->text(), "[]"_s);
+}
+
+// What was copied out of a file, with an expression and a comment.
+void tst_Commands::pasteFromTextEditor()
+{
+    OpenScenario scenario(scenarioText("a"_s));
+    scenario.select({0}, {0});
+    QGuiApplication::clipboard()->setText("    // two of them\n    {\n\"hint\": "
+                                          "qsTr(\"g\"),\n\"group\": [\n{ \"hint\": \"b\" }\n]\n},\n"
+                                          "{\"hint\": QT_TRANSLATE_NOOP(\"t\", \"c\")},\n"_s);
+    pressKeys(scenario, "v"_s);
+    QCOMPARE(scenario.rows(), "qsTr(\"g\")|.b|.<>|QT_TRANSLATE_NOOP(\"t\", \"c\")|a|<>"_s);
 }
 
 // Every depth stays the level's number: a wrong one would lose steps in the file.
