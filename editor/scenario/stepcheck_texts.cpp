@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "editor/scenario/stepcheck.h"
+#include "editor/scenario/textwalker.h"
 #include "editor/scenario/translationexpression.h"
 
 #include <QRegularExpression>
@@ -33,30 +34,54 @@ void addTagProblem(StepProblems* problems, const QString& message, const QString
     problems->add(Rule::OpenTag, kHint, message.arg(tag), Problem::tr("Close each tag"));
 }
 
+struct Tag {
+    QString name; // in small letters; empty when it is none
+    bool isEnd = false;
+    bool closesItself = false;
+    bool isWhole = false;
+};
+
+// The tag that begins with the "<" at a position.
+Tag tagAt(const QString& text, int begin)
+{
+    Tag tag;
+    tag.isEnd = isAt(text, begin + 1, '/');
+    const int name = begin + 1 + tag.isEnd;
+    int end = name;
+    while (end < text.size() && text.at(end).isLetterOrNumber())
+        ++end;
+    const bool isName = end == text.size() || text.at(end).isSpace() || isAt(text, end, '>')
+        || isAt(text, end, '/') || isAt(text, end, '<');
+    if (!isName)
+        return tag;
+    tag.name = text.mid(name, end - name).toLower();
+    while (end < text.size() && !isAt(text, end, '<') && !isAt(text, end, '>'))
+        ++end;
+    tag.isWhole = isAt(text, end, '>');
+    tag.closesItself = tag.isWhole && isAt(text, end - 1, '/');
+    return tag;
+}
+
 // Tags have to be closed in the opposite order.
 void checkTags(const QString& text, StepProblems* problems)
 {
-    if (!text.contains(QLatin1Char('<')))
-        return;
-    static const QRegularExpression kTag(
-        QStringLiteral("<(/?)([A-Za-z][A-Za-z0-9]*)((?:\\s[^<>]*)?)(/?)(>?)"));
     QStringList open;
-    for (auto it = kTag.globalMatch(text); it.hasNext();) {
-        const auto match = it.next();
-        const QString name = match.captured(2).toLower();
-        const bool isPaired = kPaired.contains(name);
-        if (!isPaired && !kOthers.contains(name))
+    const QLatin1Char begin('<');
+    for (int i = text.indexOf(begin); i != -1; i = text.indexOf(begin, i + 1)) {
+        const Tag tag = tagAt(text, i);
+        const bool isPaired = kPaired.contains(tag.name);
+        if (!isPaired && !kOthers.contains(tag.name))
             continue;
-        if (match.capturedLength(5) == 0)
-            return addTagProblem(problems, Problem::tr("The tag <%1 lacks its >"), name);
-        if (!isPaired || match.capturedLength(4) > 0)
+        if (!tag.isWhole)
+            return addTagProblem(problems, Problem::tr("The tag <%1 lacks its >"), tag.name);
+        if (!isPaired || tag.closesItself)
             continue;
-        if (match.capturedLength(1) == 0)
-            open << name;
-        else if (open.isEmpty() || open.last() != name)
-            return open.contains(name)
+        if (!tag.isEnd)
+            open << tag.name;
+        else if (open.isEmpty() || open.last() != tag.name)
+            return open.contains(tag.name)
                 ? addTagProblem(problems, Problem::tr("<%1> is not closed"), open.last())
-                : addTagProblem(problems, Problem::tr("</%1> closes no tag"), name);
+                : addTagProblem(problems, Problem::tr("</%1> closes no tag"), tag.name);
         else
             open.removeLast();
     }
