@@ -65,6 +65,7 @@ private:
     QHash<QString, int> mLabels; // the step behind each
     QVector<Node*> mLabelled;
     QSet<QString> mUsed;
+    int mUnknown = 0;
 };
 
 void Checker::FlowCheck::check(Node* root)
@@ -140,9 +141,10 @@ int Checker::FlowCheck::target(Node* node, const Jump& jump, int next)
     const auto found = mLabels.constFind(jump.label);
     if (found != mLabels.constEnd())
         return *found;
+    const bool isCheap = mLabels.size() <= 200 && ++mUnknown <= 50;
     add(node, Rule::UnknownLabel, kCondition,
         Problem::tr("No step has the label “%1”").arg(jump.label),
-        suggestion(jump.label, mLabels.keys()), jump);
+        isCheap ? suggestion(jump.label, mLabels.keys()) : QString(), jump);
     return next;
 }
 

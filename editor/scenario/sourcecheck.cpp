@@ -199,14 +199,17 @@ const QVector<int>& SourceCheck::stepsIn(int list)
 }
 
 // The last one with this key, which is the one that counts; -1 for none.
-int SourceCheck::memberOf(int object, const QString& key) const
+int SourceCheck::memberOf(int object, const QString& key)
 {
-    int found = -1;
-    for (int i = mSource.node(object).firstChild; i != -1; i = mSource.node(i).nextSibling) {
-        if (mSource.node(i).kind != SourceNode::Broken && isKey(i, key))
-            found = i;
+    if (object != mMembersOf) {
+        mMembers.clear();
+        for (int i = mSource.node(object).firstChild; i != -1; i = mSource.node(i).nextSibling) {
+            if (mSource.node(i).kind != SourceNode::Broken)
+                mMembers.insert(mSource.keyOf(mSource.node(i)), i);
+        }
+        mMembersOf = object;
     }
-    return found;
+    return mMembers.value(key, -1);
 }
 
 // Whether what stands between the brackets is in doubt.

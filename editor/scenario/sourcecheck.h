@@ -34,7 +34,7 @@ private:
     // The object of a step; -1 when there is none.
     int stepAt(const QList<int>& path);
     const QVector<int>& stepsIn(int list);
-    int memberOf(int object, const QString& key) const;
+    int memberOf(int object, const QString& key);
     bool hasError(int node) const;
     int positionIn(const SourceNode& text, int offset) const;
     SourceProblem placed(const Problem& problem, int step);
@@ -43,6 +43,8 @@ private:
     const ScenarioSource mSource;
     const ReadScenario mRead;
     QHash<int, QVector<int>> mSteps; // of each list that was asked for
+    QHash<QString, int> mMembers; // of the object that was asked for last
+    int mMembersOf = -1;
     QList<int> mPath; // of the step at work
     QVector<SourceProblem> mProblems;
     QVector<int> mErrors; // where it is in doubt what the text says, in rising order

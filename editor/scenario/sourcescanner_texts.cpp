@@ -196,15 +196,17 @@ bool SourceScanner::isKeyNext() const
 void SourceScanner::skipOtherQuotes(Role role)
 {
     const int begin = mPosition;
-    const int end = lineEnd(begin);
     const bool isTemplate = next() == QLatin1Char('`');
     int close = begin + 1;
     const QString quotes = isTemplate ? QStringLiteral("`") : kCloseQuotes;
-    const int limit = isTemplate ? mText.size() : end;
-    while (close < limit && !quotes.contains(mText.at(close)))
-        close += isAt(mText, close, '\\') ? 2 : 1;
-    const bool isClosed = close < limit;
-    moveTo(isClosed ? close + 1 : endOfText(mText, begin, end, role == Role::Argument));
+    const auto goesOn = [&](int i) {
+        return i < mText.size() && !quotes.contains(mText.at(i))
+            && (isTemplate || !isAt(mText, i, '\n'));
+    };
+    while (goesOn(close))
+        close += isAt(mText, close, '\\') && goesOn(close + 1) ? 2 : 1;
+    const bool isClosed = close < mText.size() && !isAt(mText, close, '\n');
+    moveTo(isClosed ? close + 1 : endOfText(mText, begin, lineEnd(begin), role == Role::Argument));
     if (isTemplate)
         report(Rule::TemplateString, begin, mPosition,
             Problem::tr("A template string is not understood"),

@@ -21,6 +21,7 @@ private slots:
     void demoScenarios();
     void changes();
     void screens();
+    void takesNoLonger();
 };
 
 namespace {
@@ -297,6 +298,26 @@ void tst_Checker::screens()
     QVERIFY(isOutside(-1, 0, QString()));
     QVERIFY(!isOutside(-1, 0, QStringLiteral("MainWindow")));
     QVERIFY(isOutside(1600, 0, QStringLiteral("MainWindow")));
+}
+
+// Faults in one line, in one step or of one kind took a time that grew with the
+// square of their number: minutes for these.
+void tst_Checker::takesNoLonger()
+{
+    constexpr int kCount = 100000;
+    QString keys = QStringLiteral("[{");
+    QString jumps = QStringLiteral("[\n");
+    for (int i = 0; i < kCount; ++i) {
+        keys += QStringLiteral("\"k%1\": 1, ").arg(i);
+        jumps += QStringLiteral("{\"label\": \"a%1\", \"condition\": \"yesNo,b%1,\"},\n").arg(i);
+    }
+    const QString quotes = QStringLiteral("'a' ").repeated(3 * kCount);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (const QString& text : {keys + QStringLiteral("\"x\": 1\n}]"),
+             jumps + QStringLiteral("{}\n]"), QStringLiteral("[%1]").arg(quotes)})
+        QVERIFY(!Checker::checkText(text).isEmpty());
+    QVERIFY2(elapsed.elapsed() < 40000, qPrintable(QString::number(elapsed.elapsed())));
 }
 
 QTEST_APPLESS_MAIN(tst_Checker)
