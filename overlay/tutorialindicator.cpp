@@ -23,6 +23,12 @@ int saturatedSum(int a, int b)
         qint64(a) + b, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
+// Qt keeps what it has read, so that the file is decoded once.
+QPixmap picture(const QString& filename, qreal scale)
+{
+    return QPixmap(Tutorial::getScaledFilename(filename, scale));
+}
+
 bool isActive(const QWidget* window)
 {
     return window && window->isActiveWindow();
@@ -39,9 +45,6 @@ void setShown(QWidget* window, bool shown)
 TutorialIndicator::TutorialIndicator(QWidget* parent, OverlayOwner* owner)
     : QWidget(parent), mArrow(Tutorial::getArrowFilename()), mOwner(owner)
 {
-    for (int kind = 0; kind < Tutorial::IconKindCount; ++kind)
-        mIcons[kind] =
-            QPixmap(Tutorial::getIconFilename(static_cast<Tutorial::EnumIconKind>(kind)));
     createTooltip();
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -153,10 +156,14 @@ void TutorialIndicator::createTooltip()
     connect(mNoButton, &QAbstractButton::clicked, this, &TutorialIndicator::noClicked);
 }
 
-QPixmap TutorialIndicator::icon() const
+QPixmap TutorialIndicator::arrow(qreal scale) const
 {
-    const bool known = mIconKind >= 0 && mIconKind < Tutorial::IconKindCount;
-    return known ? mIcons[mIconKind] : QPixmap();
+    return picture(Tutorial::getArrowFilename(), scale);
+}
+
+QPixmap TutorialIndicator::icon(qreal scale) const
+{
+    return picture(Tutorial::getIconFilename(mIconKind), scale);
 }
 
 void TutorialIndicator::handleActivationChange(QWidget* window)

@@ -49,9 +49,13 @@ public:
     void createTooltip();
 
     // What the balloon paints.
+    //
+    // The arrow in its plain size, that all places are counted from.
     const QPixmap& arrow() const { return mArrow; }
-    // The step's icon; a null pixmap for none.
-    QPixmap icon() const;
+    // The arrow and the step's icon, which is a null pixmap for none, drawn for
+    // a screen of that many pixels to a logical one.
+    QPixmap arrow(qreal scale) const;
+    QPixmap icon(qreal scale) const;
     const QString& hint() const { return mHint; }
     int hintHeight() const { return mHintHeight; }
     bool isArrowVisible() const { return mArrowVisible; }
@@ -87,7 +91,6 @@ private:
 
     int mTimerId = 0;
     QPixmap mArrow;
-    QPixmap mIcons[Tutorial::IconKindCount];
     Tutorial::EnumIconKind mIconKind = Tutorial::IconKindCount;
     QPoint mTargetOffset{Tutorial::kNoCoordinate, Tutorial::kNoCoordinate};
     Tutorial::EnumWindowKind mTargetWindowKind = Tutorial::WindowKindCount;

@@ -19,6 +19,14 @@ constexpr int kBounceRoom = 16; // px, the way the arrow dips
 constexpr int kUpwardsShift = 6; // px, that an arrow pointing up is drawn higher
 constexpr QSize kButtonSize(64, 32);
 
+// Between the scales that there are pictures for they are shrunk; at those every
+// pixel stays as it is.
+void smoothen(QPainter* painter, const QPixmap& picture, qreal scale)
+{
+    painter->setRenderHint(
+        QPainter::SmoothPixmapTransform, !qFuzzyCompare(picture.devicePixelRatio(), scale));
+}
+
 } // namespace
 
 TutorialTooltip::TutorialTooltip(QWidget* parent)
@@ -86,12 +94,7 @@ void TutorialTooltip::paintEvent(QPaintEvent* event)
     clear(&painter);
     if (mIndicator->isArrowVisible())
         drawArrow(&painter);
-    const QPixmap icon = mIndicator->icon();
-    if (!icon.isNull()) {
-        const bool flipped = mIndicator->motion().flippedHorizontally;
-        painter.drawPixmap(
-            flipped ? kMirroredArrowLeft - icon.width() : mIndicator->arrow().width(), 0, icon);
-    }
+    drawIcon(&painter);
     QWidget::paintEvent(event);
 }
 
@@ -157,8 +160,22 @@ void TutorialTooltip::drawArrow(QPainter* painter) const
     const int offset = static_cast<int>(up ? bounce - kUpwardsShift : bounce);
 
     painter->save();
+    const QPixmap drawn = mIndicator->arrow(devicePixelRatioF());
+    smoothen(painter, drawn, devicePixelRatioF());
     painter->translate(left ? arrow.width() + kMirroredArrowLeft : 0, up ? arrow.height() : 0);
     painter->scale(left ? -1 : 1, up ? -1 : 1);
-    painter->drawPixmap(QPointF(0, offset), arrow);
+    painter->drawPixmap(QPointF(0, offset), drawn);
     painter->restore();
+}
+
+void TutorialTooltip::drawIcon(QPainter* painter) const
+{
+    const QPixmap icon = mIndicator->icon(devicePixelRatioF());
+    if (icon.isNull())
+        return;
+    smoothen(painter, icon, devicePixelRatioF());
+    const int width = qRound(icon.width() / icon.devicePixelRatio());
+    const bool flipped = mIndicator->motion().flippedHorizontally;
+    painter->drawPixmap(
+        flipped ? kMirroredArrowLeft - width : mIndicator->arrow().width(), 0, icon);
 }

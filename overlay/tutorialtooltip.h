@@ -44,6 +44,7 @@ private:
     void createButtons();
     void clear(QPainter* painter);
     void drawArrow(QPainter* painter) const;
+    void drawIcon(QPainter* painter) const;
 
     QPointer<TutorialIndicator> mIndicator;
     HintText* mText;

@@ -27,6 +27,14 @@ QString pathOf(const char* file)
 
 } // namespace
 
+QString Tutorial::getScaledFilename(const QString& filename, double scale)
+{
+    if (scale <= 1 || filename.isEmpty())
+        return filename;
+    const int dot = filename.lastIndexOf(QLatin1Char('.'));
+    return QString(filename).insert(dot, scale <= 2 ? QLatin1String("@2x") : QLatin1String("@3x"));
+}
+
 QString Tutorial::getArrowFilename()
 {
     return pathOf("arrow.png");

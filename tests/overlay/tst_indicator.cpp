@@ -99,6 +99,8 @@ private slots:
     void hintSetsTheHeight();
     void hintShowsPicturesOutOfFiles();
     void iconIsDrawnWithoutAnArrow();
+    void tipStandsOnItsPlaceAtEveryScale_data();
+    void tipStandsOnItsPlaceAtEveryScale();
     void sideChangeMovesTheTextBox();
     void balloonThatWentMissingIsMadeAgain();
     void buttonsSendAnswers();
@@ -211,6 +213,56 @@ void tst_Indicator::iconIsDrawnWithoutAnArrow()
     QVERIFY(!isBlank(picture(iconArea)));
     mIndicator->setIconKind(static_cast<EnumIconKind>(-1));
     QVERIFY(isBlank(picture(iconArea)));
+}
+
+void tst_Indicator::tipStandsOnItsPlaceAtEveryScale_data()
+{
+    QTest::addColumn<int>("targetX");
+    QTest::addColumn<int>("targetY");
+    QTest::addColumn<QPoint>("tip");
+    QTest::newRow("down") << 400 << 100 << QPoint(38, 165);
+    QTest::newRow("down, mirrored") << 1200 << 100 << QPoint(256 + 38, 165);
+    QTest::newRow("up") << 400 << -100 << QPoint(38, 0);
+}
+
+// CTest runs this also with QT_SCALE_FACTOR: all places are logical pixels.
+void tst_Indicator::tipStandsOnItsPlaceAtEveryScale()
+{
+    QFETCH(int, targetX);
+    QFETCH(int, targetY);
+    QFETCH(QPoint, tip);
+    const qreal scale = balloon()->devicePixelRatioF();
+    const QByteArray wanted = qgetenv("QT_SCALE_FACTOR");
+    QCOMPARE(scale, wanted.isEmpty() ? 1.0 : wanted.toDouble());
+    const QPixmap arrow = mIndicator->arrow(scale);
+    QCOMPARE(mIndicator->arrow().size(), QSize(76, 159));
+    QCOMPARE(QSizeF(arrow.size()) / arrow.devicePixelRatio(), QSizeF(76, 159));
+    QVERIFY(arrow.devicePixelRatio() >= scale);
+
+    mIndicator->setTargetWindowOffset(1, 1, Window_MainWindow, false);
+    mIndicator->moveInterpolating(targetX, targetY);
+    const bool up = targetY < 0;
+    const bool left = targetX > 1000;
+    QTRY_COMPARE_WITH_TIMEOUT(mIndicator->motion().flippedVertically, up, 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(mIndicator->motion().flippedHorizontally, left, 10000);
+    // At rest, which it is for half of each period, the tip reaches its place.
+    QImage image(balloon()->size() * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    const auto distance = [&] {
+        image.fill(Qt::transparent);
+        balloon()->render(&image, {}, {}, QWidget::DrawChildren);
+        QRect bounds;
+        for (int y = 0; y < qMin(image.height(), qRound(200 * scale)); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qAlpha(image.pixel(x, y)) > 128)
+                    bounds |= QRect(x, y, 1, 1);
+            }
+        }
+        const QPointF found(bounds.left() + bounds.width() / 2.0,
+            up ? bounds.top() : bounds.top() + bounds.height());
+        return (found / scale - tip).manhattanLength();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(distance() <= 3, 5000);
 }
 
 void tst_Indicator::sideChangeMovesTheTextBox()

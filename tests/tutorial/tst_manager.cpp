@@ -304,7 +304,7 @@ void tst_Manager::target()
     receive(fields("indicator update 5 -6 65 hint 0 77"));
     QCOMPARE(indicator->targetWindowOffset(),
         QPoint(std::numeric_limits<int>::max(), std::numeric_limits<int>::min()));
-    QVERIFY(indicator->icon().isNull());
+    QVERIFY(indicator->icon(1).isNull());
 }
 
 void tst_Manager::hiddenByTheHost()
