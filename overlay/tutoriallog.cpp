@@ -13,6 +13,7 @@ TutorialLog::TutorialLog(QWidget* parent, OverlayOwner* owner) : QWidget(parent)
     // A window without any size is not put on the screen and so could not take
     // the activation: it gets one pixel, and that one cannot be seen.
     setAttribute(Qt::WA_TranslucentBackground);
+    setAccessibleName(tr("Tutorial"));
     setGeometry(0, 0, 1, 1);
     show();
     activateWindow();

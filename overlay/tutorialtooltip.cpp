@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "overlay/tutorialtooltip.h"
 
+#include "overlay/answerbutton.h"
 #include "overlay/hinttext.h"
 #include "overlay/tutorialindicator.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QPainter>
-#include <QPushButton>
 #include <QTextDocument>
 
 namespace {
@@ -43,11 +44,11 @@ TutorialTooltip::TutorialTooltip(QWidget* parent)
     mText->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     mText->setSizePolicy(QSizePolicy());
     mText->setWindowFlags(Qt::WindowTransparentForInput);
+    createButtons();
+    setAccessibleName(tr("Hint"));
     setText(mIndicator->hint());
     if (!mIndicator->hint().isEmpty())
         mIndicator->markHintChanged();
-
-    createButtons();
 
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -62,6 +63,22 @@ void TutorialTooltip::setText(const QString& text)
     if (!text.isEmpty())
         mText->setHint(text);
     mText->setVisible(!text.isEmpty());
+    announce(text.isEmpty() ? QString() : mText->toPlainText());
+}
+
+// A learner who does not see the hint is told it when it changes, and again on
+// the balloon and on each of its buttons.
+void TutorialTooltip::announce(const QString& hint)
+{
+    const bool isNew = hint != accessibleDescription();
+    setAccessibleDescription(hint);
+    mText->setAccessibleDescription(hint);
+    for (AnswerButton* button : findChildren<AnswerButton*>())
+        button->setAccessibleDescription(hint);
+    if (!isNew || hint.isEmpty())
+        return;
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void TutorialTooltip::placeText(bool flippedHorizontally)
@@ -116,12 +133,13 @@ void TutorialTooltip::changeEvent(QEvent* event)
 void TutorialTooltip::createButtons()
 {
     const auto button = [this](const QString& text) {
-        auto* result = new QPushButton(text, this);
+        auto* result = new AnswerButton(text, this);
         result->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
         result->setFixedSize(kButtonSize);
         result->setAttribute(Qt::WA_TranslucentBackground);
         result->setAttribute(Qt::WA_ShowWithoutActivating);
         result->setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+        result->setAccessibleName(text);
         result->hide();
         return result;
     };
@@ -129,9 +147,10 @@ void TutorialTooltip::createButtons()
     const auto answer = [](const char* text) {
         return QCoreApplication::translate("ObjYesNoBox", text);
     };
-    QPushButton* next = button(tr("Next"));
-    QPushButton* yes = button(answer(QT_TRANSLATE_NOOP("ObjYesNoBox", "Yes")));
-    QPushButton* no = button(answer(QT_TRANSLATE_NOOP("ObjYesNoBox", "No")));
+    AnswerButton* next = button(tr("Next"));
+    AnswerButton* yes = button(answer(QT_TRANSLATE_NOOP("ObjYesNoBox", "Yes")));
+    AnswerButton* no = button(answer(QT_TRANSLATE_NOOP("ObjYesNoBox", "No")));
+    AnswerButton::pair(yes, no);
     mIndicator->setButtons(next, yes, no);
 }
 

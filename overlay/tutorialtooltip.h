@@ -41,6 +41,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void announce(const QString& hint);
     void createButtons();
     void clear(QPainter* painter);
     void drawArrow(QPainter* painter) const;

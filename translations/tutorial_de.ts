@@ -1144,10 +1144,21 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
     </message>
 </context>
 <context>
+    <name>TutorialLog</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+</context>
+<context>
     <name>TutorialTooltip</name>
     <message>
         <source>Next</source>
         <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hinweis</translation>
     </message>
 </context>
 </TS>

@@ -13,10 +13,21 @@
     </message>
 </context>
 <context>
+    <name>TutorialLog</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+</context>
+<context>
     <name>TutorialTooltip</name>
     <message>
         <source>Next</source>
         <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Indicación</translation>
     </message>
 </context>
 </TS>

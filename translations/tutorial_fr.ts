@@ -13,10 +13,21 @@
     </message>
 </context>
 <context>
+    <name>TutorialLog</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutoriel</translation>
+    </message>
+</context>
+<context>
     <name>TutorialTooltip</name>
     <message>
         <source>Next</source>
         <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Indication</translation>
     </message>
 </context>
 </TS>

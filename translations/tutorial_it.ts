@@ -13,10 +13,21 @@
     </message>
 </context>
 <context>
+    <name>TutorialLog</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+</context>
+<context>
     <name>TutorialTooltip</name>
     <message>
         <source>Next</source>
         <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Suggerimento</translation>
     </message>
 </context>
 </TS>

@@ -13,10 +13,21 @@
     </message>
 </context>
 <context>
+    <name>TutorialLog</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>チュートリアル</translation>
+    </message>
+</context>
+<context>
     <name>TutorialTooltip</name>
     <message>
         <source>Next</source>
         <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>ヒント</translation>
     </message>
 </context>
 </TS>

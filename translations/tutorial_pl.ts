@@ -13,10 +13,21 @@
     </message>
 </context>
 <context>
+    <name>TutorialLog</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Samouczek</translation>
+    </message>
+</context>
+<context>
     <name>TutorialTooltip</name>
     <message>
         <source>Next</source>
         <translation>Dalej</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Wskazówka</translation>
     </message>
 </context>
 </TS>

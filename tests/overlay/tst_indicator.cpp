@@ -5,6 +5,7 @@
 #include "overlay/tutorialtooltip.h"
 #include "tests/support/windows.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPushButton>
 #include <QTextEdit>
@@ -104,6 +105,8 @@ private slots:
     void sideChangeMovesTheTextBox();
     void balloonThatWentMissingIsMadeAgain();
     void buttonsSendAnswers();
+    void keysPressButtonsAndGoBetweenThem();
+    void hintIsToldToScreenReaders();
     void windowsOutliveTheirOwner();
 
 private:
@@ -320,6 +323,49 @@ void tst_Indicator::buttonsSendAnswers()
     QVERIFY(!mIndicator->isButtonWindowActive());
     mIndicator->init(false, true);
     QVERIFY(mIndicator->isButtonWindowActive());
+}
+
+void tst_Indicator::keysPressButtonsAndGoBetweenThem()
+{
+    mIndicator->init(false, true);
+    button("Yes")->activateWindow();
+    QTRY_VERIFY(button("Yes")->isActiveWindow());
+    QTest::keyClick(button("Yes"), Qt::Key_Return);
+    QTest::keyClick(button("Yes"), Qt::Key_Space);
+    QCOMPARE(mOwner->sent.join(QLatin1Char(' ')), QStringLiteral("yes yes"));
+    QPushButton* from = button("Yes");
+    QPushButton* to = button("No");
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Right, Qt::Key_Left}) {
+        QTest::keyClick(from, key);
+        QTRY_VERIFY(to->isActiveWindow() && to->hasFocus());
+        std::swap(from, to);
+    }
+    QTest::keyClick(button("No"), Qt::Key_Enter);
+    QCOMPARE(mOwner->sent.last(), QStringLiteral("no"));
+    // Next stands alone: its keys go nowhere.
+    mIndicator->init(true, false);
+    button("Next")->activateWindow();
+    QTRY_VERIFY(button("Next")->isActiveWindow());
+    QTest::keyClick(button("Next"), Qt::Key_Tab);
+    QTest::keyClick(button("Next"), Qt::Key_Return);
+    QCOMPARE(mOwner->sent.last(), QStringLiteral("next"));
+}
+
+void tst_Indicator::hintIsToldToScreenReaders()
+{
+    mIndicator->init(true, true);
+    mIndicator->setHint(QStringLiteral("<b>one</b>"));
+    QCOMPARE(balloon()->accessibleDescription(), QStringLiteral("one"));
+    mIndicator->setHint(QStringLiteral("two"));
+    for (const char* name : {"Next", "Yes", "No"}) {
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(button(name));
+        QCOMPARE(told->text(QAccessible::Name), QLatin1String(name));
+        QCOMPARE(told->text(QAccessible::Description), QStringLiteral("two"));
+    }
+    mIndicator->setHint(QString());
+    QVERIFY(button("Next")->accessibleDescription().isEmpty());
+    const TutorialLog log(nullptr, mOwner.data());
+    QVERIFY(!log.accessibleName().isEmpty());
 }
 
 void tst_Indicator::windowsOutliveTheirOwner()
