@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/dialog.h"
 
+#include "editor/document/scenariodocument.h"
 #include "editor/form/formarea.h"
 #include "editor/form/textbox.h"
 #include "editor/model/model.h"
@@ -125,8 +126,11 @@ QLayout* createSlot(const QVector<QWidget*>& widgets)
 
 } // namespace
 
-Dialog::Dialog(QWidget* parent) : QDialog(parent), mModel(new Model(this))
+Dialog::Dialog(QWidget* parent)
+    : QDialog(parent), mModel(new Model(this)),
+      mDocument(new ScenarioDocument([this] { return getCurrentSteps(); }, this))
 {
+    connect(this, &Dialog::changed, mDocument, &ScenarioDocument::noteChange);
     setAttribute(Qt::WA_DeleteOnClose);
     setGeometry(QSettings()
                     .value(QStringLiteral("TutorialEditor.geometry"), QRect(200, 200, 200, 300))

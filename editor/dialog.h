@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "editor/document/savedstate.h"
 #include "editor/model/stepeditor.h"
 #include "editor/scenario/condition.h"
 #include "editor/scenario/stepfields.h"
@@ -25,6 +24,7 @@ namespace TutorialEditor {
 
 class FormArea;
 class Model;
+class ScenarioDocument;
 class TreeView;
 class TutorialItem;
 
@@ -49,6 +49,7 @@ public:
     // compact: the form for the clipboard, not for the file.
     void getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, bool compact) const;
     Model* model() const { return mModel; }
+    ScenarioDocument* document() const { return mDocument; }
 
     // Loads a scenario and shows the dialog. text: the file's, without comments
     // and markers; errors: what was found wrong with it until now; fileText: all of
@@ -56,6 +57,11 @@ public:
     // author in one box.
     void setContents(const QString& text, QStringList errors = QStringList(),
         const QString& fileText = QString());
+    // Empties the tree: what is open has a file that cannot be read.
+    void clearContents();
+    // Loads what the document's file holds now. The selected step stays selected
+    // when it still exists. What was changed is given up.
+    void reload();
     // Takes steps, with the contents of groups, in place of those in the tree, as
     // changes that are not saved, and shows the dialog.
     void recover(const QJsonArray& steps);
@@ -63,7 +69,9 @@ public:
     void setLastJson(const QString& json);
     // Whether the scenario is as it was loaded or saved last.
     bool isSaved() const;
-    const SavedState& savedState() const { return mSaved; }
+    // Writes a list in file form to the document's file, after a question when
+    // someone else has changed that. Whether it was written.
+    bool write(const QString& json);
     // Asks about unsaved changes, if there are any. withNo: whether going on
     // without saving is one of the answers. False when the author cancelled or
     // the scenario could not be written.
@@ -198,7 +206,7 @@ private:
 
     TutorialItem* mItem = nullptr; // in the form; the model owns it
     StepFields mFields; // what the form held after the last load or rebuild
-    SavedState mSaved;
+    ScenarioDocument* const mDocument;
 };
 
 } // namespace TutorialEditor

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/dialog.h"
 
+#include "editor/document/scenariodocument.h"
 #include "editor/errorbox.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
@@ -8,10 +9,12 @@
 #include "editor/scenario/condition.h"
 #include "editor/scenario/debuglog.h"
 #include "editor/scenario/jsonescape.h"
+#include "editor/scenario/scenarioreader.h"
 #include "tutorial/runtime/tutorialmanager.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -43,14 +46,66 @@ void setLocalized(TutorialItem* item, const QString& translation)
         Qt::EditRole);
 }
 
+TutorialItem* firstLike(QStandardItem* level, const QJsonObject& step)
+{
+    for (int row = 0; row < level->rowCount(); ++row) {
+        TutorialItem* item = TutorialItem::from(level->child(row));
+        if (item && !item->isEndMarker() && item->step() == step)
+            return item;
+        if (TutorialItem* below = firstLike(level->child(row), step))
+            return below;
+    }
+    return nullptr;
+}
+
+// The item that a step has become after a reload: the one at its action index
+// list when it is the same, else the first one that is, else what stands there
+// now. Null when nothing does.
+TutorialItem* findAgain(Model* model, const QJsonObject& step, const QList<int>& list)
+{
+    TutorialItem* there = TutorialItem::from(model->getItemByActionIndexList(list));
+    if (!there || there->isEndMarker() || model->getActionIndexList(there) != list)
+        there = nullptr;
+    if (there && there->step() == step)
+        return there;
+    TutorialItem* same = firstLike(model->invisibleRootItem(), step);
+    return same ? same : there;
+}
+
 } // namespace
 
 void Dialog::setContents(const QString& text, QStringList errors, const QString& fileText)
 {
     mModel->setContents(text, &errors, fileText);
+    mDocument->setLoaded(getCurrentSteps(), errors.isEmpty());
     showErrors(tr("Parse error"), errors);
-    mSaved = SavedState(getCurrentSteps());
     bringToFront();
+}
+
+void Dialog::clearContents()
+{
+    QStringList errors;
+    mModel->setSteps(QJsonArray(), &errors);
+    mDocument->setLoaded(QJsonArray(), false);
+    bringToFront();
+}
+
+void Dialog::reload()
+{
+    const QList<QModelIndex> selected = mTreeView->getSelectedIndexes();
+    const TutorialItem* item = selected.isEmpty() ? nullptr : mModel->itemAt(selected.first());
+    const QJsonObject step = item ? item->step() : QJsonObject();
+    const QList<int> list = item ? mModel->getActionIndexList(item) : QList<int>();
+    QString text;
+    QStringList errors;
+    if (!mDocument->reload(&text, &errors))
+        return;
+    setContents(removeMarkers(removeComments(text)), errors, text);
+    localizeAll();
+    if (step.isEmpty())
+        return;
+    if (const TutorialItem* again = findAgain(mModel, step, list))
+        mTreeView->selectRows(mModel->levelOf(again), again->row(), again->row());
 }
 
 void Dialog::recover(const QJsonArray& steps)

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "editor/dialog.h"
 
+#include "editor/document/scenariodocument.h"
 #include "editor/manager.h"
 #include "editor/model/model.h"
 #include "editor/model/tutorialitem.h"
+#include "editor/questions.h"
 #include "editor/scenario/debuglog.h"
 #include "editor/scenario/scenariowriter.h"
 
 #include <QCloseEvent>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QMessageBox>
 #include <QSettings>
 
 using namespace TutorialEditor;
@@ -77,30 +78,52 @@ void Dialog::getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, b
 
 void Dialog::setLastJson(const QString& json)
 {
-    mSaved = SavedState(json);
+    mDocument->setSaved(json);
 }
 
 bool Dialog::isSaved() const
 {
-    return mSaved.is(getCurrentJson());
+    return mDocument->isSaved(getCurrentJson());
 }
 
 bool Dialog::checkSave(bool withNo)
 {
-    if (isSaved())
+    const QString json = getCurrentJson();
+    const bool hasChanges = !mDocument->isSaved(json) || mDocument->isGone();
+    if (!hasChanges && (withNo || !mDocument->isChangedOnDisk()))
         return true;
-    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::Cancel;
-    if (withNo)
-        buttons |= QMessageBox::No;
-    const auto answer = QMessageBox::question(nullptr, tr("Save"), tr("Save OK?"), buttons);
-    if (answer == QMessageBox::No)
+    if (hasChanges) {
+        const auto answer = askToSave(*mDocument, withNo);
+        if (answer == QMessageBox::No)
+            return true;
+        if (answer != QMessageBox::Yes)
+            return false;
+    }
+    if (Manager::save(json))
         return true;
-    if (answer != QMessageBox::Yes)
-        return false;
-    if (Manager::save(getCurrentJson()))
-        return true;
-    QMessageBox::warning(nullptr, tr("Save"), tr("The scenario could not be saved."));
+    tellNotSaved(*mDocument);
     return false;
+}
+
+bool Dialog::write(const QString& json)
+{
+    const QJsonArray steps = getCurrentSteps();
+    ScenarioDocument::SaveReport report = mDocument->save(json, steps);
+    while (report.result == ScenarioDocument::ChangedOnDisk) {
+        const DiskFile disk = mDocument->disk();
+        const auto answer = askToReplace(*mDocument, disk, steps);
+        if (answer == QMessageBox::Retry)
+            reload();
+        if (answer != QMessageBox::Yes)
+            return false;
+        mDocument->agreeToReplace(disk);
+        report = mDocument->save(json, steps);
+    }
+    if (report.result != ScenarioDocument::Saved)
+        return false;
+    if (!report.problems.isEmpty())
+        tellUnreadable(report);
+    return true;
 }
 
 void Dialog::onSaveClicked()

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "editor/errorbox.h"
 
+#include "editor/questions.h"
+
 #include <QCoreApplication>
-#include <QMessageBox>
 
 using namespace TutorialEditor;
 
@@ -36,5 +37,5 @@ QString TutorialEditor::errorText(const QStringList& errors)
 void TutorialEditor::showErrors(const QString& title, const QStringList& errors)
 {
     if (!errors.isEmpty())
-        QMessageBox::question(nullptr, title, errorText(errors), QMessageBox::Ok);
+        showBox(QMessageBox::Question, title, errorText(errors), QMessageBox::Ok);
 }

@@ -5,12 +5,9 @@
 #include <QPointer>
 #include <QString>
 
-#include <memory>
-
 namespace TutorialEditor {
 
 class Dialog;
-class Recovery;
 
 // The one way into the authoring tool. Its static operations make the manager
 // and the dialog when there are none; a fresh dialog is empty, and not shown
@@ -26,8 +23,9 @@ public:
 
     // Opens a scenario file, without a question about the one that is open.
     static void setContents(const QString& path);
-    // Writes the scenario to the file that was opened last. json: the list of
-    // steps in file form. False when it was not written.
+    // Writes the scenario to the file that was opened last, after a question when
+    // someone else has changed that. json: the list of steps in file form. False
+    // when it was not written.
     static bool save(const QString& json);
     // Selects the step at an action index list.
     static void focusActionIndexList(const QList<int>& actionIndexList);
@@ -52,12 +50,9 @@ private:
     static Manager* ensure();
     // Offers the author what was not saved of the scenario when a process ended.
     void offerRecovery();
-    void discardRecovery();
 
     QPointer<Dialog> mDialog;
-    QString mPath;
-    std::unique_ptr<Recovery> mRecovery; // of the scenario that is open
-    bool mIsUnreadable = false; // what save() wrote there last
+    QString mPath; // also while there is no dialog
 };
 
 } // namespace TutorialEditor

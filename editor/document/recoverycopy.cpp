@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "editor/document/recoverycopy.h"
 
+#include "editor/document/datafolder.h"
 #include "editor/scenario/atomicfile.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
-#include <QStandardPaths>
 #include <QUuid>
 
 #include <algorithm>
@@ -22,30 +21,11 @@ const QString kFile = QStringLiteral("file");
 const QString kSteps = QStringLiteral("steps");
 constexpr int kIdLength = 32;
 
-// One path for a file, however it was named.
-QString canonicalPath(const QString& path)
-{
-    const QFileInfo file(path);
-    if (file.exists())
-        return file.canonicalFilePath();
-    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
-    return (folder.isEmpty() ? file.absolutePath() : folder) + QLatin1Char('/') + file.fileName();
-}
-
-// What the names of all that belongs to a scenario file begin with.
-QString namePrefix(const QString& scenarioPath)
-{
-    const QByteArray hash =
-        QCryptographicHash::hash(canonicalPath(scenarioPath).toUtf8(), QCryptographicHash::Sha256);
-    return QString::fromLatin1(hash.toHex().left(kIdLength)) + QLatin1Char('-');
-}
-
 } // namespace
 
 QString RecoveryCopy::folder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-        + QLatin1String("/recovery");
+    return dataFolder(QStringLiteral("recovery"));
 }
 
 std::vector<std::unique_ptr<RecoveryCopy>> RecoveryCopy::takeAbandoned(const QString& scenarioPath)

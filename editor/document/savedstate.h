@@ -18,6 +18,8 @@ public:
     // json: the list that was written, in file form.
     explicit SavedState(const QString& json);
 
+    // As loaded; none when a text counts as saved.
+    const QJsonArray& steps() const { return mSteps; }
     // Whether a list in file form is the saved one.
     bool is(const QString& json) const;
 

@@ -9,12 +9,26 @@
 #include <unistd.h>
 #endif
 
-namespace {
+bool TutorialEditor::replaceFile(
+    const QString& path, const QByteArray& bytes, const std::function<bool()>& beforehand)
+{
+    // Not in text mode: a file has the same bytes on every system.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    // A buffer that cannot be written any more when the file is closed, on a full
+    // disk, is no failure to commit(): it would leave an empty file.
+    if (file.write(bytes) != bytes.size() || !file.flush() || (beforehand && !beforehand())
+        || !file.commit())
+        return false;
+    // The file's bytes are on the disk before it gets its name; this brings the
+    // name there. Without it a power cut could undo the replacement after what the
+    // caller does next, like the removal of another copy.
+    syncFolderOf(path);
+    return true;
+}
 
-// The file's bytes are on the disk before it gets its name; this brings the name
-// there. Without it a power cut could undo the replacement after what the
-// caller does next, like the removal of another copy.
-void syncFolderOf(const QString& path)
+void TutorialEditor::syncFolderOf(const QString& path)
 {
 #ifdef Q_OS_UNIX
     const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
@@ -26,20 +40,4 @@ void syncFolderOf(const QString& path)
 #else
     Q_UNUSED(path)
 #endif
-}
-
-} // namespace
-
-bool TutorialEditor::replaceFile(const QString& path, const QByteArray& bytes)
-{
-    // Not in text mode: a file has the same bytes on every system.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    // A buffer that cannot be written any more when the file is closed, on a full
-    // disk, is no failure to commit(): it would leave an empty file.
-    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
-        return false;
-    syncFolderOf(path);
-    return true;
 }

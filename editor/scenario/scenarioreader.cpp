@@ -121,18 +121,33 @@ QJsonArray parse(
 
 } // namespace
 
-bool TutorialEditor::readScenarioText(const QString& path, QString* text, QStringList* errors)
+bool TutorialEditor::readScenarioBytes(const QString& path, QByteArray* bytes)
 {
     // A pipe would be waited for, and a device may never end.
     QFile file(path);
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile)
         return false;
-    const QByteArray bytes = file.readAll();
-    *text = QString::fromUtf8(bytes);
+    *bytes = file.readAll();
+    return file.error() == QFile::NoError;
+}
+
+QString TutorialEditor::decodeScenario(
+    const QByteArray& bytes, const QString& path, QStringList* errors)
+{
+    const QString text = QString::fromUtf8(bytes);
     const QByteArray mark("\xef\xbb\xbf"); // that some editors write first
-    if (text->toUtf8() != (bytes.startsWith(mark) ? bytes.mid(mark.size()) : bytes))
+    if (text.toUtf8() != (bytes.startsWith(mark) ? bytes.mid(mark.size()) : bytes))
         errors->append(
             ReadError::tr("%1 is not UTF-8 text: what could not be read was replaced").arg(path));
+    return text;
+}
+
+bool TutorialEditor::readScenarioText(const QString& path, QString* text, QStringList* errors)
+{
+    QByteArray bytes;
+    if (!readScenarioBytes(path, &bytes))
+        return false;
+    *text = decodeScenario(bytes, path, errors);
     return true;
 }
 

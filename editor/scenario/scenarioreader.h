@@ -15,9 +15,15 @@
 // the author's eyes. Each function takes time in proportion to the text's size.
 namespace TutorialEditor {
 
-// The whole text of the file; false when the file cannot be opened, which must be
-// a regular one of at most 256 MiB. Bytes that are not UTF-8 come out as
-// replacement characters and are reported.
+// The bytes of the file; false when it cannot be opened, which must be a regular
+// one of at most 256 MiB.
+bool readScenarioBytes(const QString& path, QByteArray* bytes);
+
+// The text of the file's bytes. Those that are not UTF-8 come out as replacement
+// characters and are reported.
+QString decodeScenario(const QByteArray& bytes, const QString& path, QStringList* errors);
+
+// Both: the whole text of the file.
 bool readScenarioText(const QString& path, QString* text, QStringList* errors);
 
 // Without block comments, then without the lines that hold a line comment and

@@ -1,23 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/document/savedstate.h"
+
 #include <QFutureWatcher>
-#include <QPointer>
+#include <QJsonArray>
 #include <QString>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
-
-class QJsonArray;
 
 namespace TutorialEditor {
 
-class Dialog;
 class RecoveryCopy;
-class SavedState;
 
-// Keeps the recovery copy of an open scenario: while the dialog holds unsaved
-// changes there is one, never more than two seconds behind. It is written by
+// Keeps the recovery copy of an open scenario: while there are unsaved changes
+// there is one, never more than two seconds behind. It is written by
 // another thread, so that the author does not wait for a disk. One that cannot
 // be written is told in the log, and tried again.
 //
@@ -26,11 +25,21 @@ class Recovery : public QObject {
     Q_OBJECT
 
 public:
-    Recovery(Dialog* dialog, const QString& scenarioPath);
+    // What the scenario is now: all steps, with the contents of groups, and what of
+    // them counts as saved.
+    struct State {
+        QJsonArray steps;
+        SavedState saved;
+    };
+
+    // state: asked for whenever the copy is written.
+    Recovery(const QString& scenarioPath, std::function<State()> state);
     ~Recovery() override;
 
-    // Goes on with a copy of the same scenario, whose steps the dialog now holds.
+    // Goes on with a copy of the same scenario, whose steps are now worked on.
     void adopt(std::unique_ptr<RecoveryCopy> copy);
+    // The scenario was changed, perhaps.
+    void noteChange();
     // Brings the copy up to date before it returns.
     void flush();
     // Removes the copy: the changes are saved, or the author gives them up.
@@ -40,9 +49,9 @@ private:
     void update();
     void onUpdated();
     // Whether the copy is as it has to be. Runs in any thread, once at a time.
-    bool updateCopy(const QJsonArray& steps, const SavedState& saved);
+    bool updateCopy(const State& state);
 
-    QPointer<Dialog> mDialog;
+    const std::function<State()> mState;
     std::unique_ptr<RecoveryCopy> mCopy;
     QTimer mTimer; // runs from a change on
     QFutureWatcher<bool> mUpdate;

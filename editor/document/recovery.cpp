@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "editor/recovery.h"
+#include "editor/document/recovery.h"
 
-#include "editor/dialog.h"
 #include "editor/document/recoverycopy.h"
-#include "editor/document/savedstate.h"
 #include "editor/scenario/scenariowriter.h"
 
 #include <QDebug>
@@ -18,16 +16,12 @@ constexpr int kRetryMs = 10000;
 
 } // namespace
 
-Recovery::Recovery(Dialog* dialog, const QString& scenarioPath)
-    : mDialog(dialog), mCopy(new RecoveryCopy(scenarioPath))
+Recovery::Recovery(const QString& scenarioPath, std::function<State()> state)
+    : mState(std::move(state)), mCopy(new RecoveryCopy(scenarioPath))
 {
     mTimer.setSingleShot(true);
     connect(&mTimer, &QTimer::timeout, this, &Recovery::update);
     connect(&mUpdate, &QFutureWatcher<bool>::finished, this, &Recovery::onUpdated);
-    connect(dialog, &Dialog::changed, this, [this] {
-        if (!mTimer.isActive() || mTimer.interval() != kDelayMs)
-            mTimer.start(kDelayMs);
-    });
 }
 
 Recovery::~Recovery()
@@ -41,13 +35,19 @@ void Recovery::adopt(std::unique_ptr<RecoveryCopy> copy)
     mCopy = std::move(copy);
 }
 
+void Recovery::noteChange()
+{
+    if (!mTimer.isActive() || mTimer.interval() != kDelayMs)
+        mTimer.start(kDelayMs);
+}
+
 void Recovery::flush()
 {
     mUpdate.waitForFinished();
-    if (!mTimer.isActive() || !mDialog)
+    if (!mTimer.isActive())
         return;
     mTimer.stop();
-    updateCopy(mDialog->getCurrentSteps(), mDialog->savedState());
+    updateCopy(mState());
 }
 
 void Recovery::discard()
@@ -59,15 +59,12 @@ void Recovery::discard()
 
 void Recovery::update()
 {
-    if (!mDialog)
-        return;
     if (mUpdate.isRunning()) {
         mTimer.start(kDelayMs);
         return;
     }
     mUpdate.setFuture(
-        QtConcurrent::run([this, steps = mDialog->getCurrentSteps(),
-                              saved = mDialog->savedState()] { return updateCopy(steps, saved); }));
+        QtConcurrent::run([this, state = mState()] { return updateCopy(state); }));
 }
 
 void Recovery::onUpdated()
@@ -76,13 +73,13 @@ void Recovery::onUpdated()
         mTimer.start(kRetryMs);
 }
 
-bool Recovery::updateCopy(const QJsonArray& steps, const SavedState& saved)
+bool Recovery::updateCopy(const State& state)
 {
-    if (saved.is(scenarioJson(steps))) {
+    if (state.saved.is(scenarioJson(state.steps))) {
         mCopy->remove();
         return true;
     }
-    const bool isWritten = mCopy->write(steps);
+    const bool isWritten = mCopy->write(state.steps);
     if (!isWritten && !mFailed)
         qWarning().noquote() << "Unsaved changes cannot be copied into" << RecoveryCopy::folder();
     mFailed = !isWritten;
