@@ -42,7 +42,7 @@ QString difference(const std::optional<int>& steps)
         return Dialog::tr("It cannot be read as a scenario.");
     if (*steps == 0)
         return Dialog::tr("Its steps are the same as here.");
-    return Dialog::tr("It differs from the scenario here in %n step(s).", nullptr, *steps);
+    return Dialog::tr("Steps that differ from those here: %1").arg(*steps);
 }
 
 // Null when there is nothing to tell, empty when there is no more to say.

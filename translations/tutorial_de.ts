@@ -328,6 +328,60 @@
             <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
+    <message>
+        <source>It cannot be read as a scenario.</source>
+        <translation>Als Szenario ist sie nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Its steps are the same as here.</source>
+        <translation>Ihre Schritte sind dieselben wie hier.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <translation>Den Ordner %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is no file now.</source>
+        <translation>%1 ist keine Datei mehr.</translation>
+    </message>
+    <message>
+        <source>Another tool is saving %1. Try again.</source>
+        <translation>Ein anderes Werkzeug speichert gerade %1. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The former file could not be kept, so that it was not replaced: %1</source>
+        <translation>Die vorige Datei konnte nicht aufgehoben werden und wurde deshalb nicht ersetzt: %1</translation>
+    </message>
+    <message>
+        <source>%1 was not read whole. Before it is replaced it will be kept as %2.</source>
+        <translation>%1 wurde nicht vollständig gelesen. Bevor sie ersetzt wird, wird sie als %2 aufgehoben.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.
+
+Changed: %2
+%3</source>
+        <translation>%1 wurde von einem anderen Programm geändert.
+
+Geändert: %2
+%3</translation>
+    </message>
+    <message>
+        <source>Overwrite keeps that file as %1. Reload gives up the changes here.</source>
+        <translation>„Überschreiben“ hebt jene Datei als %1 auf. „Neu laden“ gibt die Änderungen hier auf.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>Ü&amp;berschreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Steps that differ from those here: %1</source>
+        <translation>Schritte, die sich von denen hier unterscheiden: %1</translation>
+    </message>
 </context>
 <context>
     <name>TutorialEditor::Item</name>
@@ -377,16 +431,16 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>The scenario was saved, but it cannot be read again as it is. The former file was kept as %1.bak.
-
-%2</source>
-        <translation>Das Szenario wurde gespeichert, ist aber so nicht wieder lesbar. Die vorige Datei wurde als %1.bak aufgehoben.
-
-%2</translation>
-    </message>
-    <message>
         <source>Step %1 would be read as something else.</source>
         <translation>Schritt %1 würde anders gelesen.</translation>
+    </message>
+    <message>
+        <source>The scenario was saved, but it cannot be read again as it is.</source>
+        <translation>Das Szenario wurde gespeichert, ist aber so nicht wieder lesbar.</translation>
+    </message>
+    <message>
+        <source>The former file was kept as %1.</source>
+        <translation>Die vorige Datei wurde als %1 aufgehoben.</translation>
     </message>
 </context>
 <context>
