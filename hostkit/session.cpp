@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Tutorial;
@@ -24,6 +25,12 @@ constexpr int kReclaimMs = 2000;
 constexpr QPoint kTip(38, 165);
 // Where the middle of a hint of a few lines is, seen from the same point.
 constexpr QPoint kHintMiddle(204, 100);
+
+// A window of the host's own is none there.
+bool isOnLink(EnumWindowKind kind)
+{
+    return kind < WindowKindCount;
+}
 
 QStringList pushMessage(EnumWindowKind kind)
 {
@@ -44,17 +51,23 @@ QStringList xyMessage(const QPoint& point)
 
 } // namespace
 
-Session::Session(const QString& program, WindowRegistry& registry, QObject* parent)
-    : QObject(parent), mRegistry(registry), mObserver(registry), mPlayer(mObserver), mLink(program)
+Session::Session(
+    const QString& program, WindowRegistry& registry, const QStringList& arguments, QObject* parent)
+    : QObject(parent), mRegistry(registry), mObserver(registry), mPlayer(mObserver),
+      mLink(program, arguments)
 {
-    connect(&registry, &WindowRegistry::pushed, this,
-        [this](EnumWindowKind kind) { sendUnlessIdle(pushMessage(kind)); });
-    connect(&registry, &WindowRegistry::popped, this, [this] {
-        sendUnlessIdle({QStringLiteral("windowStack"), QStringLiteral("pop")});
+    connect(&registry, &WindowRegistry::pushed, this, [this](EnumWindowKind kind) {
+        if (isOnLink(kind))
+            sendUnlessIdle(pushMessage(kind));
+    });
+    connect(&registry, &WindowRegistry::popped, this, [this](EnumWindowKind kind) {
+        if (isOnLink(kind))
+            sendUnlessIdle({QStringLiteral("windowStack"), QStringLiteral("pop")});
     });
     connect(&registry, &WindowRegistry::moved, this,
         [this](EnumWindowKind kind, const QPoint& position) {
-            sendUnlessIdle(positionMessage(kind, position));
+            if (isOnLink(kind))
+                sendUnlessIdle(positionMessage(kind, position));
             if (const auto step = stepOnShow())
                 sendUnlessIdle(xyMessage(sentPointOf(*step)));
         });
@@ -72,6 +85,7 @@ Session::Session(const QString& program, WindowRegistry& registry, QObject* pare
     connect(&mObserver, &ControlObserver::changed, &mPlayer, &Player::onStateChanged);
 
     connect(&mPlayer, &Player::presetDataRequested, this, &Session::presetDataRequested);
+    connect(&mPlayer, &Player::commandRequested, this, &Session::commandRequested);
     connect(&mPlayer, &Player::stepShown, this, [this](const Step& step) {
         sendStep(step);
         emit stepShown(step);
@@ -88,13 +102,7 @@ Session::Session(const QString& program, WindowRegistry& registry, QObject* pare
             task();
     });
     connect(&mLink, &Link::received, this, &Session::onReceived);
-    connect(&mLink, &Link::failed, this, [this](const QString& reason) {
-        mPlayer.stop();
-        mPreview.reset();
-        mStarted = false;
-        mWhenConnected = nullptr;
-        emit failed(reason);
-    });
+    connect(&mLink, &Link::failed, this, &Session::onLost);
 
     mReclaimTimer.setInterval(kReclaimMs);
     mReclaimTimer.setSingleShot(true);
@@ -107,7 +115,25 @@ Session::Session(const QString& program, WindowRegistry& registry, QObject* pare
         &Session::onApplicationStateChanged);
 }
 
-bool Session::play(const QString& path, const QList<int>& first)
+void Session::onLost(const QString& reason)
+{
+    mStarted = false;
+    if (mPlayer.isPlaying() && mLink.failure() == Link::Failure::Lost && mRestartsLeft > 0) {
+        --mRestartsLeft;
+        emit notice(reason);
+        whenConnected([this] {
+            if (const auto step = stepOnShow())
+                sendStep(*step);
+        });
+        return;
+    }
+    mPlayer.stop();
+    mPreview.reset();
+    mWhenConnected = nullptr;
+    emit failed(reason);
+}
+
+void Session::read(const QString& path)
 {
     stop();
     QJsonArray steps;
@@ -115,14 +141,32 @@ bool Session::play(const QString& path, const QList<int>& first)
     TutorialEditor::readScenarioFile(path, &steps, &errors);
     for (const QString& error : qAsConst(errors))
         emit notice(error);
-    mScenario = Scenario::fromJson(steps);
-    const int index = mScenario.indexOf(first);
+    mScenario = Scenario::fromJson(steps, mWords);
+}
+
+bool Session::play(const QString& path, const QList<int>& first)
+{
+    read(path);
+    return start(path, mScenario.indexOf(first));
+}
+
+bool Session::playFrom(const QString& path, const QString& label)
+{
+    read(path);
+    const int index = mScenario.labels.value(label, -1);
+    // A group without steps at the very end has a label too.
+    return start(path, index < mScenario.steps.size() ? index : -1);
+}
+
+bool Session::start(const QString& path, int index)
+{
     if (index < 0) {
         emit notice(tr("There is no scenario to play in “%1”.").arg(path));
         return false;
     }
     mContext = QFileInfo(path).completeBaseName();
     mRegistry.forgetResults();
+    mRestartsLeft = mRestarts;
     whenConnected([this, index] { mPlayer.start(mScenario, index); });
     return true;
 }
@@ -131,6 +175,8 @@ void Session::stop()
 {
     mPlayer.stop();
     mPreview.reset();
+    // A tutorial that is not there yet has nothing to begin with any more.
+    mWhenConnected = nullptr;
     sendUnlessIdle({QStringLiteral("stop")});
     mStarted = false;
 }
@@ -236,9 +282,9 @@ void Session::sendStep(const Step& step)
     QVector<QStringList> messages = startMessages();
     const QPoint offset = step.point.value_or(QPoint(kNoCoordinate, kNoCoordinate));
     messages << QStringList{QStringLiteral("indicator"), QStringLiteral("update"),
-        QString::number(offset.x()), QString::number(offset.y()), QString::number(step.window),
-        hintText(step.hint, mContext), QString::number(step.indicatorFlags()),
-        QString::number(step.icon)};
+        QString::number(offset.x()), QString::number(offset.y()),
+        QString::number(std::min(step.window, WindowKindCount)), hintText(step.hint, mContext),
+        QString::number(step.indicatorFlags()), QString::number(step.icon)};
     messages << xyMessage(sentPointOf(step));
     mLink.send(messages);
 }
@@ -266,11 +312,15 @@ QVector<QStringList> Session::startMessages()
         {QStringLiteral("start"), QString::number(area.x()), QString::number(area.y()),
             QString::number(area.width()), QString::number(area.height())},
         {QStringLiteral("state"), QStringLiteral("show")}};
-    for (EnumWindowKind kind : mRegistry.stack())
-        messages << pushMessage(kind);
+    for (EnumWindowKind kind : mRegistry.stack()) {
+        if (isOnLink(kind))
+            messages << pushMessage(kind);
+    }
     const auto& positions = mRegistry.positions();
-    for (auto it = positions.begin(); it != positions.end(); ++it)
-        messages << positionMessage(it.key(), it.value());
+    for (auto it = positions.begin(); it != positions.end(); ++it) {
+        if (isOnLink(it.key()))
+            messages << positionMessage(it.key(), it.value());
+    }
     // The first start takes the activation; the author's may stay in the
     // editor.
     if (mPlayer.isPlaying())

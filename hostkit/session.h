@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostkit/core/hostwords.h"
 #include "hostkit/core/player.h"
 #include "hostkit/link/link.h"
 #include "hostkit/windows/controlobserver.h"
@@ -25,8 +26,10 @@ class Session : public QObject {
 
 public:
     // program: the tutorial's executable. registry: the host's windows;
-    // outlives the session.
-    Session(const QString& program, WindowRegistry& registry, QObject* parent = nullptr);
+    // outlives the session. arguments: what the tutorial is given behind the
+    // connection id.
+    Session(const QString& program, WindowRegistry& registry, const QStringList& arguments = {},
+        QObject* parent = nullptr);
 
     const Player& player() const { return mPlayer; }
     const Link& link() const { return mLink; }
@@ -36,7 +39,17 @@ public:
     // empty path is the whole file. What is wrong with the file is reported as a
     // notice; false when there is nothing to play.
     bool play(const QString& path, const QList<int>& first = {});
+    // The same, from the step with the label.
+    bool playFrom(const QString& path, const QString& label);
     void stop();
+
+    // The host's own words; they hold from the next play() on.
+    HostWords& words() { return mWords; }
+    // Has the tutorial's version asked for: see Link::require().
+    void require(const QString& version) { mLink.require(version); }
+    // A tutorial that is lost while a scenario is played is started again, with
+    // the step that it was in, so many times a scenario.
+    void setRestarts(int count) { mRestarts = count; }
 
     // Shows the step without playing it, until play() or stop(): its arrow
     // follows its window, and nothing ends it.
@@ -66,6 +79,7 @@ public:
 
 signals:
     void presetDataRequested(const QString& name);
+    void commandRequested(const QString& name, const QString& parameter);
     void stepShown(const Step& step);
     void stepDone(const Step& step);
     // The scenario was played to its end, or the tutorial is gone.
@@ -74,7 +88,10 @@ signals:
     void notice(const QString& text);
 
 private:
+    void read(const QString& path);
+    bool start(const QString& path, int index);
     void onReceived(const QStringList& fields);
+    void onLost(const QString& reason);
     void onApplicationStateChanged(Qt::ApplicationState state);
     // Shows or hides the tutorial with the main window.
     void setMinimized(bool on);
@@ -91,6 +108,7 @@ private:
     ControlObserver mObserver;
     Player mPlayer;
     Link mLink;
+    HostWords mWords;
     Scenario mScenario;
     // Translation context of the scenario's hints: its file's base name.
     QString mContext;
@@ -100,6 +118,8 @@ private:
     // "start" was sent, and no "stop" since.
     bool mStarted = false;
     bool mMinimized = false;
+    int mRestarts = 0;
+    int mRestartsLeft = 0;
     QTimer mHideTimer;
     // While it runs, an activation that the tutorial's windows took is taken
     // back.

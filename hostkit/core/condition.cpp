@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/core/condition.h"
 
+#include "hostkit/core/hostwords.h"
+
 #include <QCoreApplication>
 #include <QHash>
 
@@ -48,7 +50,7 @@ bool parametersAreSound(const Condition& condition)
     const QString second = condition.parameter(1);
     switch (condition.kind) {
     case Condition_windowState:
-        return getWindowKind(first) != WindowKindCount && kStates.contains(second);
+        return condition.subject != WindowKindCount && kStates.contains(second);
     case Condition_wait:
         return isSeconds(first);
     case Condition_mouseEvent:
@@ -77,15 +79,27 @@ bool parametersAreSound(const Condition& condition)
 
 Condition Condition::fromText(const QString& text)
 {
+    return fromText(text, {});
+}
+
+Condition Condition::fromText(const QString& text, const HostWords& words)
+{
     Condition condition;
     condition.text = text;
     condition.parameters = text.split(QLatin1Char(','));
-    condition.kind = getConditionKind(condition.parameters.takeFirst());
+    const QString name = condition.parameters.takeFirst();
+    condition.kind = getConditionKind(name);
+    if (condition.kind == Condition_windowState)
+        condition.subject = words.window(condition.parameter(0));
+    else if (condition.kind == ConditionKindCount)
+        condition.own = words.conditions.value(name);
     return condition;
 }
 
 QString Condition::fault() const
 {
+    if (own)
+        return {};
     if (kind == ConditionKindCount)
         return QCoreApplication::translate("TutorialHost::Condition", "unknown condition “%1”")
             .arg(text);
@@ -98,13 +112,15 @@ QString Condition::fault() const
 bool TutorialHost::isMet(
     const Condition& condition, EnumWindowKind followed, const HostState& state)
 {
+    if (condition.own)
+        return condition.own(condition.parameters);
     if (!parametersAreSound(condition))
         return false;
     const QString first = condition.parameter(0);
     const QString second = condition.parameter(1);
     switch (condition.kind) {
     case Condition_windowState: {
-        const QString now = state.windowState(getWindowKind(first));
+        const QString now = state.windowState(condition.subject);
         return second == QLatin1String("close") ? now != QLatin1String("open") : now == second;
     }
     case Condition_textLength:

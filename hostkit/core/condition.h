@@ -7,9 +7,12 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace TutorialHost {
+
+struct HostWords;
 
 // The condition that ends a step, as scenario files hold it: the kind's name
 // and its parameters, separated by commas.
@@ -48,6 +51,8 @@ namespace TutorialHost {
 struct Condition {
     // An unknown kind's name gives ConditionKindCount.
     static Condition fromText(const QString& text);
+    // The same, where the host has words of its own: conditions, and windows.
+    static Condition fromText(const QString& text, const HostWords& words);
 
     // Why this condition can never be met; empty when it can.
     QString fault() const;
@@ -57,6 +62,10 @@ struct Condition {
     QString text;
     Tutorial::EnumConditionKind kind = Tutorial::ConditionKindCount;
     QStringList parameters;
+    // The window that windowState is about.
+    Tutorial::EnumWindowKind subject = Tutorial::WindowKindCount;
+    // A condition of the host's own: whether it is met now.
+    std::function<bool(const QStringList& parameters)> own;
 };
 
 // How the host's windows and controls are now. A window stands for all that it

@@ -13,6 +13,8 @@ namespace {
 constexpr int kSettleMs = 50;
 // How long a window may take to open before the player says that it waits.
 constexpr int kPatienceMs = 2000;
+// Nobody tells when a condition of the host's own is met: it is asked.
+constexpr int kAskMs = 100;
 
 } // namespace
 
@@ -20,6 +22,8 @@ Player::Player(const HostState& state, QObject* parent) : QObject(parent), mStat
 {
     mJudgeTimer.setSingleShot(true);
     connect(&mJudgeTimer, &QTimer::timeout, this, &Player::judge);
+    mOwnTimer.setInterval(kAskMs);
+    connect(&mOwnTimer, &QTimer::timeout, this, &Player::judge);
     mWaitTimer.setSingleShot(true);
     connect(&mWaitTimer, &QTimer::timeout, this, [this] {
         mMet = true;
@@ -45,7 +49,7 @@ void Player::stop()
     mCurrent = -1;
     mHistory.clear();
     mShown = false;
-    for (QTimer* timer : {&mJudgeTimer, &mWaitTimer, &mPatienceTimer})
+    for (QTimer* timer : {&mJudgeTimer, &mWaitTimer, &mPatienceTimer, &mOwnTimer})
         timer->stop();
 }
 
@@ -89,6 +93,7 @@ void Player::enter(int index)
     mShown = false;
     mWaitTimer.stop();
     mPatienceTimer.stop();
+    mOwnTimer.stop();
     if (index >= mScenario.steps.size()) {
         stop();
         emit finished();
@@ -99,6 +104,13 @@ void Player::enter(int index)
         emit notice(tr("Step %1: %2").arg(step().pathText(), step().fault));
     if (!step().presetData.isEmpty())
         emit presetDataRequested(step().presetData);
+    if (isPlaying() && !step().command.isEmpty())
+        emit commandRequested(step().command, step().commandParameter);
+    // Whoever loads the data may end the tutorial.
+    if (!isPlaying())
+        return;
+    if (step().condition.own)
+        mOwnTimer.start();
     mPatienceTimer.start();
     mJudgeTimer.start(kSettleMs);
 }
@@ -137,6 +149,9 @@ void Player::goBack()
     // Not entered anew: data that this step loads would undo the learner's work.
     mCurrent = mHistory.takeLast();
     mMet = false;
+    mOwnTimer.stop();
+    if (step().condition.own)
+        mOwnTimer.start();
     judge();
 }
 

@@ -46,6 +46,8 @@ public:
 signals:
     // Asked for before the step is shown.
     void presetDataRequested(const QString& name);
+    // A command of the host's own that the step begins with.
+    void commandRequested(const QString& name, const QString& parameter);
     void stepShown(const Step& step);
     void stepDone(const Step& step);
     void finished();
@@ -74,6 +76,8 @@ private:
     QTimer mJudgeTimer;
     QTimer mWaitTimer;
     QTimer mPatienceTimer;
+    // Runs while a condition of the host's own is waited for.
+    QTimer mOwnTimer;
 };
 
 } // namespace TutorialHost

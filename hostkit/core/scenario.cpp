@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/core/scenario.h"
 
+#include "hostkit/core/hostwords.h"
+
 #include <QCoreApplication>
 #include <QJsonObject>
 
@@ -32,13 +34,14 @@ QString unknown(const QString& what, const QString& name)
     return QCoreApplication::translate("TutorialHost::Scenario", "unknown %1 “%2”").arg(what, name);
 }
 
-Step stepOf(const QJsonObject& json, const QList<int>& path)
+Step stepOf(const QJsonObject& json, const QList<int>& path, const HostWords& words)
 {
     Step step;
     step.path = path;
     step.point = pointOf(json);
-    step.window = getWindowKind(text(json, "followWindow"));
-    step.condition = Condition::fromText(text(json, "condition"));
+    step.window = words.window(text(json, "followWindow"));
+    step.condition = Condition::fromText(text(json, "condition"), words);
+    step.label = text(json, "label");
     step.hint = text(json, "hint");
     step.icon = getIconKind(text(json, "icon"));
     step.arrowHidden = json.value(QLatin1String("option")).toInt() & 1;
@@ -47,16 +50,21 @@ Step stepOf(const QJsonObject& json, const QList<int>& path)
     const QString commandName = command.section(QLatin1Char(','), 0, 0);
     if (getCommandKind(commandName) == Command_presetData)
         step.presetData = command.section(QLatin1Char(','), 1);
+    if (words.commands.contains(commandName)) {
+        step.command = commandName;
+        step.commandParameter = command.section(QLatin1Char(','), 1);
+    }
 
     step.fault = step.condition.fault();
     if (step.window == WindowKindCount && !text(json, "followWindow").isEmpty())
         step.fault = unknown(QStringLiteral("followWindow"), text(json, "followWindow"));
-    else if (step.presetData.isEmpty() && !command.isEmpty())
+    else if (step.presetData.isEmpty() && step.command.isEmpty() && !command.isEmpty())
         step.fault = unknown(QStringLiteral("command"), command);
     return step;
 }
 
-void append(Scenario& scenario, const QJsonArray& level, const QList<int>& parentPath)
+void append(Scenario& scenario, const QJsonArray& level, const QList<int>& parentPath,
+    const HostWords& words)
 {
     for (int row = 0; row < level.size(); ++row) {
         const QJsonObject json = level.at(row).toObject();
@@ -65,9 +73,9 @@ void append(Scenario& scenario, const QJsonArray& level, const QList<int>& paren
         if (!label.isEmpty() && !scenario.labels.contains(label))
             scenario.labels.insert(label, scenario.steps.size());
         if (json.contains(QLatin1String("group")))
-            append(scenario, json.value(QLatin1String("group")).toArray(), path);
+            append(scenario, json.value(QLatin1String("group")).toArray(), path, words);
         else if (!json.isEmpty())
-            scenario.steps << stepOf(json, path);
+            scenario.steps << stepOf(json, path, words);
     }
 }
 
@@ -95,8 +103,13 @@ int Step::indicatorFlags() const
 
 Scenario Scenario::fromJson(const QJsonArray& steps)
 {
+    return fromJson(steps, {});
+}
+
+Scenario Scenario::fromJson(const QJsonArray& steps, const HostWords& words)
+{
     Scenario scenario;
-    append(scenario, steps, {});
+    append(scenario, steps, {}, words);
     return scenario;
 }
 

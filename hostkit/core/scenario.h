@@ -15,6 +15,8 @@
 
 namespace TutorialHost {
 
+struct HostWords;
+
 // One step of a scenario, read from its JSON.
 struct Step {
     // Where the step stands: the row at each level of grouping, outermost first.
@@ -31,6 +33,11 @@ struct Step {
     bool arrowHidden = false;
     // Name of the data to load when the step begins; empty for none.
     QString presetData;
+    // A command of the host's own, to be done when the step begins; empty for
+    // none.
+    QString command;
+    QString commandParameter;
+    QString label;
     // What the reader could not make sense of; empty when all is well.
     QString fault;
 
@@ -47,6 +54,8 @@ struct Step {
 // so they are taken apart here.
 struct Scenario {
     static Scenario fromJson(const QJsonArray& steps);
+    // The same, where the host has words of its own.
+    static Scenario fromJson(const QJsonArray& steps, const HostWords& words);
 
     // Index of the first step at or below this path; -1 when there is none.
     int indexOf(const QList<int>& path) const;

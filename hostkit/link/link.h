@@ -19,10 +19,21 @@ class Link : public QObject {
     Q_OBJECT
 
 public:
-    // program: path or name of the tutorial's executable.
-    explicit Link(const QString& program, QObject* parent = nullptr);
+    // Why there is no tutorial.
+    enum class Failure { NotStarted, WrongVersion, Lost };
+
+    // program: path or name of the tutorial's executable. arguments: what it is
+    // given behind the connection id.
+    explicit Link(
+        const QString& program, const QStringList& arguments = {}, QObject* parent = nullptr);
     ~Link() override;
 
+    // Has the program's version asked for before it is started: its first two
+    // numbers have to be those of this one, "0.1" for example.
+    void require(const QString& version) { mVersion = version; }
+
+    // Why failed() was emitted last.
+    Failure failure() const { return mFailure; }
     bool isConnected() const { return mSocket; }
     // Process id of the running tutorial; 0 when there is none.
     qint64 processId() const { return mProcess.processId(); }
@@ -37,22 +48,33 @@ public:
 signals:
     void connected();
     void received(const QStringList& fields);
-    // The tutorial could not be started, or it ended without being told to.
+    // The tutorial could not be started, it ended without being told to, or it
+    // was ended because it gave no sign of life for five seconds.
     // open() starts another one.
     void failed(const QString& reason);
 
 private:
     void onNewConnection();
     void onReadyRead();
-    void giveUp(const QString& reason);
+    void onVersionTold();
+    void onAliveTick();
+    void start();
+    void giveUp(Failure failure, const QString& reason);
 
     QString mProgram;
+    QStringList mArguments;
+    QString mVersion;
+    Failure mFailure = Failure::Lost;
     QLocalServer mServer;
     QProcess mProcess;
+    QProcess mVersionProcess;
     QPointer<QLocalSocket> mSocket;
     PacketDecoder mDecoder;
     QTimer mAliveTimer;
     QTimer mConnectTimer;
+    // Ticks of the timer above since the tutorial was heard last. Ticks, not
+    // time: a host that was asleep itself has not listened.
+    int mSilentTicks = 0;
 };
 
 } // namespace TutorialHost

@@ -27,7 +27,8 @@ void WindowRegistry::add(EnumWindowKind kind, QWidget* window)
 
 QWidget* WindowRegistry::window(EnumWindowKind kind) const
 {
-    return mOpen.value(kind);
+    const QList<QWidget*> open = mOpen.value(kind);
+    return open.isEmpty() ? nullptr : open.last();
 }
 
 QList<EnumWindowKind> WindowRegistry::windowsAround(const QWidget* widget) const
@@ -83,9 +84,10 @@ bool WindowRegistry::eventFilter(QObject* watched, QEvent* event)
 
 void WindowRegistry::onShown(EnumWindowKind kind, QWidget* window)
 {
-    if (mOpen.value(kind) == window)
+    QList<QWidget*>& open = mOpen[kind];
+    if (open.contains(window))
         return;
-    mOpen.insert(kind, window);
+    open << window;
     if (window->isWindow()) {
         mStack << kind;
         emit pushed(kind);
@@ -97,9 +99,11 @@ void WindowRegistry::onShown(EnumWindowKind kind, QWidget* window)
 
 void WindowRegistry::onHidden(EnumWindowKind kind, const QWidget* window)
 {
-    if (mOpen.value(kind) != window)
+    const auto open = mOpen.find(kind);
+    if (open == mOpen.end() || open->removeAll(const_cast<QWidget*>(window)) == 0)
         return;
-    mOpen.remove(kind);
+    if (open->isEmpty())
+        mOpen.erase(open);
     mPositions.remove(kind);
     mResults.insert(kind, QStringLiteral("close"));
     const int index = mStack.lastIndexOf(kind);
@@ -108,13 +112,16 @@ void WindowRegistry::onHidden(EnumWindowKind kind, const QWidget* window)
         // window are taken off with it and put back.
         const QList<EnumWindowKind> above = mStack.mid(index + 1);
         mStack.erase(mStack.begin() + index, mStack.end());
-        for (int i = 0; i <= above.size(); ++i)
-            emit popped();
+        for (int i = above.size() - 1; i >= 0; --i)
+            emit popped(above.at(i));
+        emit popped(kind);
         for (EnumWindowKind other : above) {
             mStack << other;
             emit pushed(other);
         }
     }
+    // Another window of the kind may be where this one was.
+    updatePositions();
     emit changed(kind);
 }
 
@@ -127,7 +134,7 @@ void WindowRegistry::setResult(EnumWindowKind kind, const QString& result)
 void WindowRegistry::updatePositions()
 {
     for (auto open = mOpen.constBegin(); open != mOpen.constEnd(); ++open) {
-        const QPoint position = open.value()->mapToGlobal(QPoint());
+        const QPoint position = open.value().last()->mapToGlobal(QPoint());
         if (mPositions.contains(open.key()) && mPositions.value(open.key()) == position)
             continue;
         mPositions.insert(open.key(), position);

@@ -25,7 +25,8 @@ public:
     // kind. A kind may have several widgets (every context menu is a Popup).
     void add(Tutorial::EnumWindowKind kind, QWidget* window);
 
-    // The open window of the kind; null when there is none.
+    bool contains(const QWidget* window) const { return mKinds.contains(window); }
+    // The open window of the kind, the one that was opened last; null when there is none.
     QWidget* window(Tutorial::EnumWindowKind kind) const;
     // Kinds of the windows in which the widget is, the innermost first.
     QList<Tutorial::EnumWindowKind> windowsAround(const QWidget* widget) const;
@@ -47,8 +48,8 @@ signals:
     // positions() tell about it.
     void opened(Tutorial::EnumWindowKind kind, QWidget* window);
     void pushed(Tutorial::EnumWindowKind kind);
-    // The last entry of the stack is gone.
-    void popped();
+    // The last entry of the stack, which was of this kind, is gone.
+    void popped(Tutorial::EnumWindowKind kind);
     void moved(Tutorial::EnumWindowKind kind, const QPoint& position);
     // The state of the window is another one.
     void changed(Tutorial::EnumWindowKind kind);
@@ -65,7 +66,7 @@ private:
     void updatePositions();
 
     QHash<const QObject*, Tutorial::EnumWindowKind> mKinds;
-    QHash<Tutorial::EnumWindowKind, QWidget*> mOpen;
+    QHash<Tutorial::EnumWindowKind, QList<QWidget*>> mOpen;
     QHash<Tutorial::EnumWindowKind, QString> mResults;
     QHash<Tutorial::EnumWindowKind, QPoint> mPositions;
     QList<Tutorial::EnumWindowKind> mStack;

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+#include <TutorialHost/Host>
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QtTest>
+
+#include <algorithm>
+#include <csignal>
+
+using namespace TutorialHost;
+
+namespace {
+
+const char kOneStep[] = "var scenario = [\n    {\"condition\": \"click\"}\n];\n";
+
+} // namespace
+
+// A host of the test's making with the real tutorial.
+class tst_Host : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(mFolder.isValid()); }
+    void playsWordsOfItsOwn();
+    void tellsWhyThereIsNoTutorial_data();
+    void tellsWhyThereIsNoTutorial();
+    void startsALostTutorialAgain();
+    void stopsBeforeItHasBegun();
+    void checksAgainstItsWords();
+
+private:
+    QString write(const QString& name, const QByteArray& text);
+    // A program that leaves its process id in the file "pid" and goes on as the
+    // tutorial.
+    QString tutorialWithPid();
+
+    QTemporaryDir mFolder;
+};
+
+QString tst_Host::write(const QString& name, const QByteArray& text)
+{
+    QFile file(mFolder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("%s cannot be written", qPrintable(name));
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return file.fileName();
+}
+
+QString tst_Host::tutorialWithPid()
+{
+    return write(QStringLiteral("tutorial"),
+        QStringLiteral("#!/bin/sh\n[ \"$1\" = --version ] || echo $$ > \"%1/pid\"\n"
+                       "exec \"%2/tutorial\" \"$@\"\n")
+            .arg(mFolder.path(), QCoreApplication::applicationDirPath())
+            .toUtf8());
+}
+
+void tst_Host::playsWordsOfItsOwn()
+{
+    const QString scenario = write(QStringLiteral("words.js"), R"(var scenario = [
+    {"condition": "click", "followWindow": "MainWindow"},
+    {"label": "notes", "command": "fill,a,b", "condition": "filled,notes,3", "followWindow": "Notes"},
+    {"label": "closing", "condition": "windowState,Notes,close", "followWindow": "MainWindow"}
+];)");
+    QMainWindow window;
+    window.show();
+    Options options;
+    options.program = tutorialWithPid();
+    Host host(&window, options);
+    host.addWindow(QStringLiteral("notesDialog"), QStringLiteral("Notes"));
+    QString filled;
+    host.addCommand(QStringLiteral("fill"), [&](const QString& parameter) {
+        filled = parameter;
+        return true;
+    });
+    QLineEdit* edit = nullptr;
+    host.addCondition(QStringLiteral("filled"), [&](const QStringList& parameters) {
+        return edit && parameters.value(0) == QLatin1String("notes")
+            && edit->text().size() == parameters.value(1).toInt();
+    });
+    QSignalSpy steps(&host, &Host::stepShown);
+    QSignalSpy ends(&host, &Host::finished);
+
+    QVERIFY(!host.play(scenario, QStringLiteral("nowhere")));
+    QVERIFY(host.play(scenario, QStringLiteral("notes")));
+    QTRY_COMPARE_WITH_TIMEOUT(filled, QStringLiteral("a,b"), 20000);
+    // Its window is made only now; and another of the kind is over it.
+    QDialog dialog(&window);
+    dialog.setObjectName(QStringLiteral("notesDialog"));
+    edit = new QLineEdit(&dialog);
+    dialog.show();
+    QDialog second(&window);
+    second.setObjectName(QStringLiteral("notesDialog"));
+    second.show();
+    QTRY_COMPARE(steps.size(), 1);
+    QCOMPARE(steps.last().first().toString(), QStringLiteral("notes"));
+    edit->setText(QStringLiteral("abc"));
+    QTRY_COMPARE(steps.size(), 2);
+    QCOMPARE(steps.last().first().toString(), QStringLiteral("closing"));
+    // One is left.
+    second.close();
+    QVERIFY(!ends.wait(300));
+    dialog.close();
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(ends.first().first().value<Result>(), Result::Completed);
+}
+
+void tst_Host::tellsWhyThereIsNoTutorial_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<Result>("result");
+    QTest::newRow("none") << QStringLiteral("/nowhere/tutorial") << Result::NotInstalled;
+    QTest::newRow("another version")
+        << write(QStringLiteral("other"), "#!/bin/sh\necho tutorial 99.1\n")
+        << Result::WrongVersion;
+    QTest::newRow("ends at once") << write(
+        QStringLiteral("ends"), "#!/bin/sh\necho tutorial " PROJECT_VERSION ".7\n")
+                                  << Result::Crashed;
+}
+
+void tst_Host::tellsWhyThereIsNoTutorial()
+{
+    QFETCH(QString, program);
+    QFETCH(Result, result);
+    QWidget window;
+    Options options;
+    options.program = program;
+    Host host(&window, options);
+    QSignalSpy ends(&host, &Host::finished);
+    QVERIFY(host.play(write(QStringLiteral("one.js"), kOneStep)));
+    QTRY_COMPARE_WITH_TIMEOUT(ends.size(), 1, 20000);
+    QCOMPARE(ends.first().first().value<Result>(), result);
+}
+
+void tst_Host::startsALostTutorialAgain()
+{
+    const QString program = tutorialWithPid();
+    QWidget window;
+    window.show();
+    Options options;
+    options.program = program;
+    Host host(&window, options);
+    int loads = 0;
+    host.addCommand(QStringLiteral("presetData"), [&](const QString&) { return ++loads > 0; });
+    QSignalSpy notices(&host, &Host::notice);
+    QSignalSpy ends(&host, &Host::finished);
+    qint64 pid = 0;
+    const auto runningPid = [&]() -> qint64 {
+        QFile file(mFolder.filePath(QStringLiteral("pid")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toLongLong() : 0;
+    };
+    QFile::remove(mFolder.filePath(QStringLiteral("pid")));
+    QVERIFY(host.play(write(QStringLiteral("one.js"),
+        "var scenario = [\n    {\"condition\": \"click\", \"command\": \"presetData,x\"}\n];\n")));
+    // One that hangs is lost too.
+    for (int signal : {SIGSTOP, SIGKILL, SIGKILL}) {
+        QTRY_VERIFY_WITH_TIMEOUT(runningPid() > 0 && runningPid() != pid, 20000);
+        pid = runningPid();
+        if (loads == 0)
+            QTRY_COMPARE_WITH_TIMEOUT(loads, 1, 20000);
+        QCOMPARE(ends.size(), 0);
+        QCOMPARE(::kill(pid_t(pid), signal), 0);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(ends.size(), 1, 20000);
+    QCOMPARE(ends.first().first().value<Result>(), Result::Crashed);
+    // It was the same step all the time, and is not entered anew.
+    QCOMPARE(loads, 1);
+    QCOMPARE(notices.size(), 3);
+}
+
+void tst_Host::stopsBeforeItHasBegun()
+{
+    QWidget window;
+    window.show();
+    Options options;
+    options.program = tutorialWithPid();
+    Host host(&window, options);
+    QSignalSpy steps(&host, &Host::stepShown);
+    QSignalSpy ends(&host, &Host::finished);
+    QVERIFY(host.play(write(QStringLiteral("one.js"), kOneStep)));
+    host.stop();
+    QCOMPARE(ends.size(), 1);
+    QCOMPARE(ends.first().first().value<Result>(), Result::Stopped);
+    // It used to begin when the tutorial had connected after all.
+    QVERIFY(!steps.wait(2000));
+}
+
+void tst_Host::checksAgainstItsWords()
+{
+    QWidget window;
+    Host host(&window);
+    host.addWindow(QStringLiteral("notesDialog"), QStringLiteral("Notes"));
+    host.addCondition(QStringLiteral("filled"), [](const QStringList&) { return false; });
+    using TutorialEditor::Rule;
+    const auto has = [&](const char* condition, const char* followed, Rule rule) {
+        const QByteArray text = QByteArray("var scenario = [\n    {\"condition\": \"") + condition
+            + "\", \"followWindow\": \"" + followed + "\"}\n];\n";
+        const auto problems = host.check(write(QStringLiteral("checked.js"), text));
+        return std::any_of(problems.begin(), problems.end(),
+            [&](const Problem& problem) { return problem.rule == rule; });
+    };
+    QVERIFY(!has("filled,1", "Notes", Rule::UnknownCondition));
+    QVERIFY(!has("filled,1", "Notes", Rule::UnknownWindow));
+    QVERIFY(has("emptied,1", "Notes", Rule::UnknownCondition));
+    QVERIFY(has("filled,1", "Options", Rule::UnknownWindow));
+    QCOMPARE(host.check(QStringLiteral("/nowhere.js")).size(), 1);
+}
+
+QTEST_MAIN(tst_Host)
+#include "tst_host.moc"
