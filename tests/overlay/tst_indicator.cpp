@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <cmath>
 #include <sys/stat.h>
 
 using namespace Tutorial;
@@ -107,6 +108,7 @@ private slots:
     void buttonsSendAnswers();
     void keysPressButtonsAndGoBetweenThem();
     void hintIsToldToScreenReaders();
+    void cardIsReadable();
     void windowsOutliveTheirOwner();
 
 private:
@@ -366,6 +368,47 @@ void tst_Indicator::hintIsToldToScreenReaders()
     QVERIFY(button("Next")->accessibleDescription().isEmpty());
     const TutorialLog log(nullptr, mOwner.data());
     QVERIFY(!log.accessibleName().isEmpty());
+}
+
+// By the formula of the web's accessibility guidelines: the relative luminance.
+static double luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
+}
+
+void tst_Indicator::cardIsReadable()
+{
+    QFile file(QStringLiteral(CARD_FILE));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+    mIndicator->init(true, true);
+    mIndicator->setHint(QStringLiteral("<b>MMMM MMMM MMMM</b><br>MMMM MMMM"));
+    auto* text = balloon()->findChild<QTextEdit*>();
+    QTRY_VERIFY(mIndicator->hintHeight() != 64);
+    // What the edge takes of the height is the margin below the last line.
+    const QTextDocument* document = text->document();
+    QVERIFY(
+        text->viewport()->height() >= document->size().height() - document->documentMargin() - 1);
+    for (QWidget* shown : {static_cast<QWidget*>(text), static_cast<QWidget*>(button("Yes"))}) {
+        // Inside of the edge there are the paper and the letters only.
+        const QRect inside = shown->rect().adjusted(8, 8, -8, -8);
+        const QImage image = shown->grab(inside).toImage();
+        double darkest = 1;
+        double lightest = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const double found = luminance(image.pixelColor(x, y));
+                darkest = std::min(darkest, found);
+                lightest = std::max(lightest, found);
+            }
+        }
+        QVERIFY((lightest + 0.05) / (darkest + 0.05) >= 7);
+    }
+    qApp->setStyleSheet(QString());
 }
 
 void tst_Indicator::windowsOutliveTheirOwner()
