@@ -656,6 +656,14 @@
         <source>The tutorial has left the link.</source>
         <translation>Die Einführung hat die Verbindung getrennt.</translation>
     </message>
+    <message>
+        <source>The tutorial “%1” is not of version %2 (it says “%3”).</source>
+        <translation>Die Einführung „%1“ hat nicht die Version %2 (sie nennt „%3“).</translation>
+    </message>
+    <message>
+        <source>The tutorial has given no sign of life.</source>
+        <translation>Die Einführung hat kein Lebenszeichen gegeben.</translation>
+    </message>
 </context>
 <context>
     <name>TutorialHost::Player</name>
