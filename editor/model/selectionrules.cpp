@@ -38,7 +38,7 @@ public:
     {
         do
             addContents();
-        while (!isConsistent() && addParents());
+        while (addParents());
     }
 
     const QVector<RowRun>& runs() const { return mRuns; }
@@ -103,33 +103,49 @@ private:
         }
     }
 
-    bool isConsistent() const
+    // The selected rows whose level is not itself selected.
+    QVector<RowRun> outermost() const
     {
-        const QStandardItem* level = mRuns.first().level;
-        const QStandardItem* first = level->child(mRuns.first().first);
-        return std::all_of(mRuns.begin(), mRuns.end(), [&](const RowRun& run) {
-            return run.level == level || run.level == first
-                || (run.first == run.last && run.level->child(run.first) == level);
-        });
+        QVector<RowRun> runs;
+        for (const RowRun& run : mRuns) {
+            if (!levelOf(run.level) || !isSelected(run.level))
+                runs << run;
+        }
+        return runs;
     }
 
-    // Adds the groups that hold the outermost rows. Done until the selection is
-    // consistent, this ends with the group that all its branches have in common
-    // or, when they have none, with their outermost groups. False when there is
-    // nothing to add.
+    // Adds the group that the outermost rows have in common or, when they have
+    // none, the groups that hold them. False when they are siblings.
     bool addParents()
     {
+        const QVector<RowRun> runs = outermost();
+        QStandardItem* common = runs.first().level;
+        bool areSiblings = true;
         QVector<QStandardItem*> groups;
-        for (const RowRun& run : qAsConst(mRuns)) {
-            if (levelOf(run.level) && !isSelected(run.level) && !groups.contains(run.level))
+        for (const RowRun& run : runs) {
+            areSiblings &= run.level == runs.first().level;
+            while (!isWithin(run.level, common))
+                common = levelOf(common);
+            if (levelOf(run.level) && !groups.contains(run.level))
                 groups << run.level;
         }
+        if (areSiblings)
+            return false;
+        if (levelOf(common))
+            groups = {common};
         for (QStandardItem* group : qAsConst(groups)) {
             add({levelOf(group), group->row(), group->row()});
             noteTop(group);
             noteShown();
         }
-        return !groups.isEmpty();
+        return true;
+    }
+
+    static bool isWithin(const QStandardItem* level, const QStandardItem* ancestor)
+    {
+        while (level && level != ancestor)
+            level = levelOf(level);
+        return level;
     }
 
     QVector<RowRun> mRuns;

@@ -47,22 +47,28 @@ private:
             shown = steps->itemAt(top.first());
     }
 
-    static bool isConsistent(const QModelIndexList& all)
+    // Those whose parent is not selected by now.
+    QModelIndexList outermostOf(const QModelIndexList& all) const
     {
-        const QModelIndex first = all.first();
-        const QModelIndex parent = first.parent();
-        return std::all_of(all.begin() + 1, all.end(), [&](const QModelIndex& index) {
-            return index == parent || index.parent() == first || index.parent() == parent;
+        QModelIndexList outermost;
+        for (const QModelIndex& index : all) {
+            if (!selectionModel()->isSelected(index.parent()))
+                outermost << index;
+        }
+        return outermost;
+    }
+
+    bool isConsistent(const QModelIndexList& all) const
+    {
+        const QModelIndexList outermost = outermostOf(all);
+        return std::all_of(outermost.cbegin(), outermost.cend(), [&](const QModelIndex& index) {
+            return index.parent() == outermost.first().parent();
         });
     }
 
     void widen(const QModelIndexList& all)
     {
-        QModelIndexList outermost;
-        for (const QModelIndex& index : all) {
-            if (!index.parent().isValid() || !all.contains(index.parent()))
-                outermost << index;
-        }
+        const QModelIndexList outermost = outermostOf(all);
         QModelIndexList ancestors;
         for (QModelIndex index = outermost.first().parent(); index.isValid();
              index = index.parent())
