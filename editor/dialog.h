@@ -176,6 +176,8 @@ private:
     QJsonArray getSteps(const QList<QModelIndex>& indexes) const;
     // Puts the top ones on the clipboard and returns the text that it got.
     QString copyToClipboard(const QList<QModelIndex>& indexes) const;
+    // Removes the top ones and selects what took their place: the row there, or
+    // the step above when that is an end marker and there is one.
     void removeRows(const QList<QModelIndex>& indexes);
     // Has the host play the saved scenario from a step.
     void start(TutorialItem* item);

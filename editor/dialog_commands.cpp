@@ -103,22 +103,33 @@ void Dialog::onCutTriggered()
 {
     const QList<QModelIndex> selected = mTreeView->getSelectedIndexes();
     EDITOR_DEBUG << mModel->getModelIndexListStr(selected);
+    // End markers are not written: they must not replace what was cut before.
+    if (!selected.isEmpty() && mModel->getMinimumDepth(selected) < 0)
+        return;
     copyToClipboard(selected);
     removeRows(selected);
 }
 
 void Dialog::removeRows(const QList<QModelIndex>& indexes)
 {
+    if (mModel->getMinimumDepth(indexes) < 0)
+        return;
+    const QModelIndex first = mModel->getTopIndexes(indexes).first();
+    QStandardItem* level = mModel->levelOf(mModel->itemFromIndex(first));
+    int row = first.row();
     // The selection rules must not take back a row that is about to go.
     mTreeView->clearSelection();
     mModel->removeModelIndexList(indexes);
+    if (row > 0 && TutorialItem::from(level->child(row))->isEndMarker())
+        --row;
+    mTreeView->selectRows(level, row, row);
 }
 
 void Dialog::onCopyTriggered()
 {
     const QList<QModelIndex> selected = mTreeView->getSelectedIndexes();
     EDITOR_DEBUG << mModel->getModelIndexListStr(selected);
-    if (selected.isEmpty())
+    if (mModel->getMinimumDepth(selected) < 0)
         return;
     const QString text = copyToClipboard(selected);
     const QMimeData* copied = QGuiApplication::clipboard()->mimeData(QClipboard::Clipboard);
@@ -159,9 +170,10 @@ void Dialog::onPasteTriggered()
     if (!errors.isEmpty() && readPastedSteps(content->text(), &steps))
         errors.clear();
     const TutorialItem* anchor = mModel->itemAt(selected.first());
-    if (errors.isEmpty() && !anchor->isEndMarker())
+    QStandardItem* level = mModel->levelOf(anchor);
+    if (errors.isEmpty())
         mModel->insertJsonRow(
-            mModel->levelOf(anchor), anchor->row(), anchor->depth(), steps, &errors, true);
+            level, anchor->row(), mModel->levelDepth(level), steps, &errors, true);
     showErrors(tr("Parse error"), errors);
 }
 

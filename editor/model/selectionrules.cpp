@@ -6,7 +6,6 @@
 #include <QBitArray>
 #include <QHash>
 
-#include <algorithm>
 
 using namespace TutorialEditor;
 

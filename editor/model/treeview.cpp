@@ -129,6 +129,8 @@ void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelec
         editor->linkToEdit(nullptr);
     else if (TutorialItem* shown = widenSelection())
         editor->linkToEdit(shown);
+    else if (scenario()->getMinimumDepth(getSelectedIndexes()) < 0)
+        editor->linkToEdit(nullptr);
 }
 
 TutorialItem* TreeView::widenSelection()

@@ -49,6 +49,7 @@ class tst_Commands : public QObject {
 private slots:
     void commands_data();
     void commands();
+    void endMarkersClearTheForm();
     void copiedTextIsExact();
     void pasteFromTextEditor();
     void groupingSurvivesTheFile();
@@ -71,7 +72,13 @@ void tst_Commands::commands_data()
     };
     add("new in a group", "a [g b c ]", "1,1", "1,1", "n", "a|g|.b|.|.c|.<>|<>", "");
     add("new at the end", "[g a ]", "0,1", "0,1", "n", "g|.a|.|.<>|<>", "");
-    add("delete a run with a group", "a [g b ] c d", "1", "2", "d", "a|d|<>", "");
+    add("delete a run with a group", "a [g b ] c d", "1", "2", "d", "a|d|<>", "d");
+    add("delete the last", "a b", "1", "1", "d", "a|<>", "a");
+    add("delete an inner group of groups", "[a x [b y [c z ] ] w ]", "0,1", "0,1", "d",
+        "a|.x|.w|.<>|<>", "w");
+    // The third cut meets the end marker alone.
+    add("cut until nothing is left, and paste", "a b", "1", "1", "xxxv", "a|<>", "<>");
+    add("paste at the end of a group", "[g b ]", "0,0", "0,0", "xv", "g|.b|.<>|<>", "<>");
     add("copy and paste", "a [g b ] c", "1", "2", "cv", "a|g|.b|.<>|c|g|.b|.<>|c|<>", "g|c|b|<>");
     // A hint with quotes keeps the copied text from being JSON.
     add("paste a new group", "a", "0", "0", "bcv", "qsTr(\"group\")|.a|.<>|group|.a|.<>|<>",
@@ -84,9 +91,9 @@ void tst_Commands::commands_data()
     add("ungroup some of the contents", "[g a b ]", "0,0", "0,1", "i", "g|.a|.b|.<>|<>", "a|b");
     add("ungroup around a full group", "[g [h a ] ]", "0", "0", "i", "g|.h|..a|..<>|.<>|<>",
         "g|h|<>|a|<>");
-    add("end marker alone", "[g a ]", "0,1", "0,1", "cvbidx", "g|.a|.<>|<>", "");
-    add("end marker and siblings, delete", "[g a ]", "0,0", "0,1", "d", "g|.<>|<>", "");
-    add("everything", "a [g b ]", "0", "2", "x", "<>", "");
+    add("end marker alone", "[g a ]", "0,1", "0,1", "cvbidx", "g|.a|.<>|<>", "<>");
+    add("end marker and siblings, delete", "[g a ]", "0,0", "0,1", "d", "g|.<>|<>", "<>");
+    add("everything", "a [g b ]", "0", "2", "x", "<>", "<>");
 }
 
 void tst_Commands::commands()
@@ -95,11 +102,22 @@ void tst_Commands::commands()
     QFETCH(QString, first);
     QFETCH(QString, last);
     QFETCH(QString, keys);
+    QGuiApplication::clipboard()->setText("[]"_s);
     OpenScenario scenario(scenarioText(before));
     scenario.select(rowsIn(first), rowsIn(last));
     pressKeys(scenario, keys);
     QTEST(scenario.rows(), "after");
     QTEST(scenario.selectedRows(), "selected");
+}
+
+// The form went on to edit the step that had been selected before.
+void tst_Commands::endMarkersClearTheForm()
+{
+    OpenScenario scenario(scenarioText("[g a ]"_s));
+    scenario.select({0, 0});
+    QVERIFY(!scenario.hint()->isHidden());
+    scenario.select({0, 1});
+    QVERIFY(scenario.hint()->isHidden());
 }
 
 void tst_Commands::copiedTextIsExact()

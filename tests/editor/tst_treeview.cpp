@@ -61,9 +61,8 @@ private:
     bool isConsistent(const QModelIndexList& all) const
     {
         const QModelIndexList outermost = outermostOf(all);
-        return std::all_of(outermost.cbegin(), outermost.cend(), [&](const QModelIndex& index) {
-            return index.parent() == outermost.first().parent();
-        });
+        return std::all_of(outermost.cbegin(), outermost.cend(),
+            [&](const QModelIndex& index) { return index.parent() == outermost.first().parent(); });
     }
 
     void widen(const QModelIndexList& all)
