@@ -6,7 +6,9 @@
 #include "resource/pictures.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 #include <limits>
@@ -15,7 +17,9 @@
 namespace {
 
 constexpr int kTickMs = 100;
-constexpr int kNoButtonOffset = 56; // px, from the yes button
+
+// px, of Next, Yes and No from the first of those that are shown.
+constexpr std::array<QPoint, 3> kButtonOffsets = {QPoint(0, 0), QPoint(0, 0), QPoint(56, 0)};
 
 int saturatedSum(int a, int b)
 {
@@ -79,6 +83,7 @@ void TutorialIndicator::init(bool showNext, bool showYesNo)
     mYesNoWanted = showYesNo;
     setShown(mYesButton, showYesNo);
     setShown(mNoButton, showYesNo);
+    raiseButtons();
 }
 
 void TutorialIndicator::setHint(const QString& text)
@@ -122,6 +127,7 @@ void TutorialIndicator::showButton()
         setShown(mYesButton, true);
         setShown(mNoButton, true);
     }
+    raiseButtons();
 }
 
 void TutorialIndicator::hideButton()
@@ -138,6 +144,7 @@ void TutorialIndicator::showTooltip()
     mTooltip->show();
     // The host may have opened a window or a menu above it since.
     mTooltip->raise();
+    raiseButtons();
 }
 
 void TutorialIndicator::hideTooltip()
@@ -233,8 +240,13 @@ void TutorialIndicator::timerEvent(QTimerEvent*)
     const bool hintChanged = std::exchange(mHintChanged, false);
     if (hintChanged && mTooltip)
         mHintHeight = mTooltip->fitText();
-    if (hintChanged || position != mMotion.current)
-        moveWindows(position);
+    const bool moved = hintChanged || position != mMotion.current;
+    if (moved && mTooltip)
+        mTooltip->move(position);
+    // What is shown may have changed, or the host's area, or a screen.
+    const QPoint lastShift = std::exchange(mButtonShift, buttonShift(position));
+    if (moved || mButtonShift != lastShift)
+        moveButtons(position);
     mMotion.current = position;
 
     if (!mTooltip)
@@ -274,16 +286,38 @@ void TutorialIndicator::answer(const QString& message)
         mOwner->send(message);
 }
 
-void TutorialIndicator::moveWindows(const QPoint& position)
+QPoint TutorialIndicator::buttonShift(const QPoint& position) const
 {
-    if (mTooltip)
-        mTooltip->move(position);
-    const QPoint buttons =
+    const QPoint described =
         position + QPoint(mArrow.width(), mHintHeight + TutorialTooltip::kTextTop);
-    if (mNextButton)
-        mNextButton->move(buttons);
-    if (mYesButton)
-        mYesButton->move(buttons);
-    if (mNoButton)
-        mNoButton->move(buttons + QPoint(kNoButtonOffset, 0));
+    QRect shown;
+    for (int i = 0; i < int(kButtonOffsets.size()); ++i) {
+        if (buttons()[i] && buttons()[i]->isVisible())
+            shown |= QRect(described + kButtonOffsets[i], TutorialTooltip::kButtonSize);
+    }
+    if (shown.isEmpty() || !mTooltip || !mOwner)
+        return {};
+    QVector<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens())
+        screens << screen->geometry();
+    const BalloonParts parts = mTooltip->parts().translated(position);
+    return buttonPlace(shown, mOwner->hostRect(), screens, parts) - shown.topLeft();
+}
+
+void TutorialIndicator::moveButtons(const QPoint& position)
+{
+    const QPoint corner =
+        position + QPoint(mArrow.width(), mHintHeight + TutorialTooltip::kTextTop) + mButtonShift;
+    for (int i = 0; i < int(kButtonOffsets.size()); ++i) {
+        if (buttons()[i])
+            buttons()[i]->move(corner + kButtonOffsets[i]);
+    }
+}
+
+void TutorialIndicator::raiseButtons()
+{
+    for (QPushButton* button : buttons()) {
+        if (button && button->isVisible())
+            button->raise();
+    }
 }

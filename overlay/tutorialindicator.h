@@ -10,6 +10,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <array>
+
 class OverlayOwner;
 class QPushButton;
 class TutorialTooltip;
@@ -87,7 +89,13 @@ protected:
 
 private:
     void answer(const QString& message);
-    void moveWindows(const QPoint& position);
+    // Next, Yes and No; null when there is no balloon.
+    std::array<QPushButton*, 3> buttons() const { return {mNextButton, mYesButton, mNoButton}; }
+    // How far the shown buttons stand from their place below the text, for a
+    // balloon at this position.
+    QPoint buttonShift(const QPoint& position) const;
+    void moveButtons(const QPoint& position);
+    void raiseButtons();
 
     int mTimerId = 0;
     QPixmap mArrow;
@@ -102,6 +110,7 @@ private:
     QPointer<OverlayOwner> mOwner;
     QElapsedTimer mElapsed;
     BalloonMotion mMotion;
+    QPoint mButtonShift;
     bool mFullRepaint = false;
     bool mNextWanted = false;
     bool mYesNoWanted = false;

@@ -18,7 +18,8 @@ constexpr int kMirroredArrowLeft = 256; // px
 constexpr int kIconSize = 56; // px
 constexpr int kBounceRoom = 16; // px, the way the arrow dips
 constexpr int kUpwardsShift = 6; // px, that an arrow pointing up is drawn higher
-constexpr QSize kButtonSize(64, 32);
+constexpr int kTipAboveBottom = 10; // px, in the arrow's picture
+constexpr int kTipSize = 32; // px, of the square around the tip
 
 // Between the scales that there are pictures for they are shrunk; at those every
 // pixel stays as it is.
@@ -56,6 +57,27 @@ TutorialTooltip::TutorialTooltip(QWidget* parent)
     setWindowFlags(kPaintedWindowFlags);
     setGeometry(kGeometry);
     show();
+}
+
+BalloonParts TutorialTooltip::parts() const
+{
+    if (!mIndicator)
+        return {};
+    const QSize arrow = mIndicator->arrow().size();
+    const bool left = mIndicator->motion().flippedHorizontally;
+    const int arrowLeft = left ? kMirroredArrowLeft : 0;
+    const int tipTop =
+        mIndicator->motion().flippedVertically ? 0 : kBounceRoom + arrow.height() - kTipAboveBottom;
+    BalloonParts parts;
+    if (mIndicator->isArrowVisible()) {
+        parts.arrow = QRect(arrowLeft, 0, arrow.width(), arrow.height() + kBounceRoom);
+        parts.tip = QRect(
+            arrowLeft + (arrow.width() - kTipSize) / 2, tipTop - kTipSize / 2, kTipSize, kTipSize);
+    }
+    parts.icon = iconArea(mIndicator->icon(devicePixelRatioF()));
+    if (mText && mText->isVisibleTo(this))
+        parts.text = mText->geometry();
+    return parts;
 }
 
 void TutorialTooltip::setText(const QString& text)
@@ -193,8 +215,13 @@ void TutorialTooltip::drawIcon(QPainter* painter) const
     if (icon.isNull())
         return;
     smoothen(painter, icon, devicePixelRatioF());
-    const int width = qRound(icon.width() / icon.devicePixelRatio());
+    painter->drawPixmap(iconArea(icon).topLeft(), icon);
+}
+
+QRect TutorialTooltip::iconArea(const QPixmap& icon) const
+{
+    const QSize size = (QSizeF(icon.size()) / icon.devicePixelRatio()).toSize();
     const bool flipped = mIndicator->motion().flippedHorizontally;
-    painter->drawPixmap(
-        flipped ? kMirroredArrowLeft - width : mIndicator->arrow().width(), 0, icon);
+    const int left = flipped ? kMirroredArrowLeft - size.width() : mIndicator->arrow().width();
+    return {QPoint(left, 0), size};
 }

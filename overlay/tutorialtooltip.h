@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "overlay/buttonplace.h"
+
 #include <QPointer>
 #include <QWidget>
 
@@ -16,6 +18,7 @@ class TutorialTooltip : public QWidget {
 public:
     static constexpr int kTextTop = 56; // px, text box below the balloon's top
     static constexpr int kTextWidth = 256; // px
+    static constexpr QSize kButtonSize{64, 32};
     static constexpr Qt::WindowFlags kPaintedWindowFlags =
         Qt::WindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
             | Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint);
@@ -23,6 +26,9 @@ public:
     // parent: the indicator. It does not become the Qt parent: the balloon is a
     // top-level window. The balloon is shown at once.
     explicit TutorialTooltip(QWidget* parent);
+
+    // What is shown at the moment, in the balloon's own pixels.
+    BalloonParts parts() const;
 
     // Puts the text into the text box; an empty one hides the box.
     void setText(const QString& text);
@@ -46,6 +52,8 @@ private:
     void clear(QPainter* painter);
     void drawArrow(QPainter* painter) const;
     void drawIcon(QPainter* painter) const;
+    // Where the icon stands; empty for a null pixmap.
+    QRect iconArea(const QPixmap& icon) const;
 
     QPointer<TutorialIndicator> mIndicator;
     HintText* mText;

@@ -98,6 +98,7 @@ private slots:
     void cleanup();
 
     void glideMovesBalloonAndButtons();
+    void buttonsStayWithinReach();
     void hintSetsTheHeight();
     void hintShowsPicturesOutOfFiles();
     void iconIsDrawnWithoutAnArrow();
@@ -147,6 +148,30 @@ void tst_Indicator::glideMovesBalloonAndButtons()
         QCOMPARE(yes.positions.at(i), expected.at(i) + QPoint(76, 64 + 56));
         QCOMPARE(no.positions.at(i), expected.at(i) + QPoint(76 + 56, 64 + 56));
     }
+}
+
+// Below a target near the bottom they were off the screen.
+void tst_Indicator::buttonsStayWithinReach()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    mIndicator->init(false, true);
+    const auto places = [] {
+        return QPair<QPoint, QPoint>(button("Yes")->pos(), button("No")->pos());
+    };
+    const auto both = [](int x, int y) { return qMakePair(QPoint(x, y), QPoint(x + 56, y)); };
+    mIndicator->moveInterpolating(0, screen.height() - 100);
+    QTRY_COMPARE(places(), both(76, screen.height() - 32));
+    // What is shown there changes while the balloon stays.
+    mIndicator->setIconKind(Icon_eye);
+    mIndicator->setHint(QStringLiteral("hint"));
+    const auto standsClear = [] {
+        return button("Yes")->geometry().top() >= 0
+            && !button("Yes")->geometry().intersects(
+                balloon()->findChild<QTextEdit*>()->geometry().translated(balloon()->pos()));
+    };
+    QTRY_VERIFY(standsClear());
+    mIndicator->moveInterpolating(0, 100);
+    QTRY_COMPARE(places(), both(76, balloon()->y() + 56 + mIndicator->hintHeight()));
 }
 
 void tst_Indicator::hintSetsTheHeight()
