@@ -635,6 +635,13 @@
     </message>
 </context>
 <context>
+    <name>TutorialHost::Host</name>
+    <message>
+        <source>“%1” could not be done with “%2”.</source>
+        <translation>„%1“ ließ sich mit „%2“ nicht ausführen.</translation>
+    </message>
+</context>
+<context>
     <name>TutorialHost::Link</name>
     <message>
         <source>The tutorial “%1” could not be started: %2</source>
