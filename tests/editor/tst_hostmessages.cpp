@@ -108,8 +108,9 @@ void tst_HostMessages::dropsMalformedMessages()
 
 void tst_HostMessages::opensOneAfterTheOther()
 {
-    OpenScenario scenario(scenarioText("a"_s));
+    // It outlives the tool, which asks when its file is gone.
     QTemporaryDir folder;
+    OpenScenario scenario(scenarioText("a"_s));
     const QString second = folder.filePath("second.js"_s);
     QVERIFY(QFile::copy(scenario.path(), second));
     const QStringList open{"editor"_s, "open"_s, second};
