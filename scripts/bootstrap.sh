@@ -20,6 +20,8 @@ packages=(
   libx11-dev libxtst-dev
   # a display without a screen: server, window manager, compositor, tools
   xvfb openbox picom xdotool x11-utils xrestop xauth
+  # the host that is no Qt program
+  python3 python3-tk
   # a plain font for the windows
   fonts-dejavu-core
 )
@@ -30,7 +32,7 @@ $0: this system does not install Debian packages. Please install, by the names
 that your system has for them: a C++17 compiler, clang 14 or newer with libFuzzer
 and the sanitizers, CMake 3.24 or newer, Ninja, Qt 5.15 (base with private tools,
 Linguist tools), Qt 6.4 (the same), the X11 and XTest development files, Xvfb, openbox, picom,
-xdotool, xprop, xwininfo and xrestop, and the DejaVu fonts. In Debian they are:
+xdotool, xprop, xwininfo and xrestop, Python 3 with Tk, and the DejaVu fonts. In Debian they are:
   ${packages[*]}
 Then run scripts/test.sh or scripts/demo.sh with TUTORIAL_SKIP_BOOTSTRAP=1.
 EOF
