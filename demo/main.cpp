@@ -6,7 +6,7 @@
 #include "tutorial/process/platform.h"
 #include "tutorial/process/terminationsignals.h"
 #ifdef DEMO_AUTOPLAY
-#include "demo/autoplayer.h"
+#include "hostkit/autoplay/autoplay.h"
 #endif
 
 #include <QApplication>
@@ -218,13 +218,18 @@ int main(int argc, char** argv)
 
     if (arguments.autoplay) {
 #ifdef DEMO_AUTOPLAY
-        if (QGuiApplication::platformName() != QLatin1String("xcb"))
-            return complain(QStringLiteral("--autoplay needs an X server; the platform here is %1")
-                                .arg(QGuiApplication::platformName()),
-                kFailed);
-        Autoplayer autoplayer(session, arguments.screenshots, arguments.minutes);
-        if (!autoplayer.start(arguments.scenario))
-            return kFailed;
+        Autoplay autoplay(session, {arguments.screenshots, arguments.minutes});
+        QObject::connect(&autoplay, &Autoplay::progress, &window,
+            [](const QString& line) { QTextStream(stdout) << line << '\n'; });
+        QObject::connect(
+            &autoplay, &Autoplay::finished, &application,
+            [&autoplay](bool completed) {
+                if (!completed)
+                    tell(QStringLiteral("failed: %1").arg(autoplay.error()));
+                QCoreApplication::exit(completed ? 0 : kFailed);
+            },
+            Qt::QueuedConnection);
+        autoplay.start(arguments.scenario);
         return QApplication::exec();
 #else
         return complain(

@@ -209,6 +209,11 @@ void Host::stop()
     d->end(Result::Stopped);
 }
 
+Session& Host::session()
+{
+    return d->session;
+}
+
 bool Host::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show && watched->isWidgetType())

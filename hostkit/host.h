@@ -15,6 +15,7 @@
 
 namespace TutorialHost {
 
+class Session;
 using TutorialEditor::Problem;
 
 // How a tutorial ended.
@@ -96,6 +97,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    friend class Autoplay;
+    Session& session();
+
     class Private;
     std::unique_ptr<Private> d;
 };

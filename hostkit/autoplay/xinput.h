@@ -9,6 +9,8 @@
 // X11's name for a connection; its header's macros clash with names of Qt.
 struct _XDisplay;
 
+namespace TutorialHost {
+
 // Hands and eyes of a learner on an X server: real pointer and key events
 // through the server's test extension, and the windows of another process as
 // the server knows them. Points are pixels of the screen.
@@ -42,3 +44,5 @@ private:
 
     _XDisplay* mDisplay;
 };
+
+} // namespace TutorialHost

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "demo/xinput.h"
+#include "hostkit/autoplay/xinput.h"
 
 #include <QThread>
 
@@ -9,6 +9,8 @@
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
+
+using TutorialHost::XInput;
 
 namespace {
 

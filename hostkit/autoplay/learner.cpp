@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "demo/autoplayer.h"
+#include "hostkit/autoplay/learner.h"
 
 #include "hostkit/session.h"
 
@@ -7,7 +7,6 @@
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
-#include <QTextStream>
 
 #include <algorithm>
 
@@ -57,78 +56,94 @@ int enough(const QString& comparison, int number)
 
 } // namespace
 
-Autoplayer::Autoplayer(Session& session, const QString& screenshots, int minutes)
-    : mSession(session), mScreenshots(screenshots), mPlayMs(minutes * 60000LL)
+Learner::Learner(Session& session, const std::function<bool(const QString& path)>& begin,
+    const QString& screenshots, int minutes)
+    : mSession(session), mBegin(begin), mScreenshots(screenshots), mPlayMs(minutes * 60000LL)
 {
-    connect(&session, &Session::stepShown, this, &Autoplayer::onStepShown);
-    connect(&session, &Session::stepDone, this, &Autoplayer::onStepDone);
-    connect(&session, &Session::failed, this, &Autoplayer::fail);
+    connect(&session, &Session::stepShown, this, &Learner::onStepShown);
+    connect(&session, &Session::stepDone, this, &Learner::onStepDone);
+    connect(&session, &Session::failed, this, &Learner::end);
     // The session is done with the round when the next one begins.
-    connect(&session, &Session::finished, this, &Autoplayer::onFinished, Qt::QueuedConnection);
+    connect(&session, &Session::finished, this, &Learner::onFinished, Qt::QueuedConnection);
     mTimer.setInterval(kTickMs);
-    connect(&mTimer, &QTimer::timeout, this, &Autoplayer::tick);
+    connect(&mTimer, &QTimer::timeout, this, &Learner::tick);
 }
 
-bool Autoplayer::start(const QString& path)
+QString Learner::obstacle() const
 {
-    QTextStream errors(stderr);
-    if (!mInput.isUsable()) {
-        errors << "tutorial-demo: the X server has no test extension\n";
-        return false;
-    }
-    if (!mScreenshots.isEmpty() && !QDir().mkpath(mScreenshots)) {
-        errors << "tutorial-demo: the folder " << mScreenshots << " cannot be made\n";
-        return false;
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        return QStringLiteral("an X server is needed; the platform here is %1")
+            .arg(QGuiApplication::platformName());
+    if (!mInput.isUsable())
+        return QStringLiteral("the X server has no test extension");
+    if (!mScreenshots.isEmpty() && !QDir().mkpath(mScreenshots))
+        return QStringLiteral("the folder %1 cannot be made").arg(mScreenshots);
+    return {};
+}
+
+void Learner::start(const QString& path)
+{
+    const QString reason = obstacle();
+    if (!reason.isEmpty()) {
+        emit finished(reason);
+        return;
     }
     mPath = path;
+    mRounds = 0;
     mPlayTime.start();
     mTimer.start();
-    return playRound();
+    playRound();
 }
 
-bool Autoplayer::playRound()
+void Learner::playRound()
 {
     mShown.clear();
     mPictures = 0;
+    mToBeDone = false;
     mStepTime.start();
-    return mSession.play(mPath);
+    if (!mBegin(mPath))
+        end(QStringLiteral("%1 cannot be played").arg(mPath));
 }
 
-void Autoplayer::onFinished()
+void Learner::onFinished()
 {
-    QTextStream(stdout) << "round " << ++mRounds << " done\n";
+    if (!mTimer.isActive())
+        return;
+    emit progress(QStringLiteral("round %1 done").arg(++mRounds));
     if (mPlayTime.hasExpired(mPlayMs))
-        QCoreApplication::exit(0);
-    else if (!playRound())
-        fail(QStringLiteral("%1 cannot be played again").arg(mPath));
+        end({});
+    else
+        playRound();
 }
 
-void Autoplayer::onStepShown(const Step& step)
+void Learner::onStepShown(const Step& step)
 {
+    if (!mTimer.isActive())
+        return;
     if (++mShown[step.pathText()] > kMostRounds) {
-        fail(QStringLiteral("%1 %2 comes again and again")
-                 .arg(step.pathText(), step.condition.text));
+        end(QStringLiteral("%1 %2 comes again and again")
+                .arg(step.pathText(), step.condition.text));
         return;
     }
     mShownTime.start();
     mToBeDone = true;
 }
 
-void Autoplayer::onStepDone(const Step& step)
+void Learner::onStepDone(const Step& step)
 {
-    QTextStream(stdout) << step.pathText() << ' ' << step.condition.text << " ok\n";
+    emit progress(QStringLiteral("%1 %2 ok").arg(step.pathText(), step.condition.text));
     mStepTime.start();
     mToBeDone = false;
 }
 
-void Autoplayer::tick()
+void Learner::tick()
 {
     if (mStepTime.hasExpired(kDeadlineMs)) {
         const Player& player = mSession.player();
         const QString what = player.isPlaying()
             ? player.step().pathText() + QLatin1Char(' ') + player.step().condition.text
             : QStringLiteral("the tutorial to connect");
-        fail(QStringLiteral("waited %1 s for %2").arg(kDeadlineMs / 1000).arg(what));
+        end(QStringLiteral("waited %1 s for %2").arg(kDeadlineMs / 1000).arg(what));
         return;
     }
     if (mToBeDone && mShownTime.hasExpired(kPaintMs) && arrowHasArrived() && answersAreOnShow()
@@ -138,7 +153,7 @@ void Autoplayer::tick()
     }
 }
 
-bool Autoplayer::arrowHasArrived()
+bool Learner::arrowHasArrived()
 {
     const QPoint wanted = mSession.sentPointOf(mSession.player().step());
     const QVector<QRect> windows = mInput.windowsOf(mSession.link().processId());
@@ -149,7 +164,7 @@ bool Autoplayer::arrowHasArrived()
     });
 }
 
-QVector<QRect> Autoplayer::answerButtons() const
+QVector<QRect> Learner::answerButtons() const
 {
     QVector<QRect> buttons = mInput.windowsOf(mSession.link().processId());
     buttons.erase(std::remove_if(buttons.begin(), buttons.end(),
@@ -160,7 +175,7 @@ QVector<QRect> Autoplayer::answerButtons() const
     return buttons;
 }
 
-bool Autoplayer::answersAreOnShow() const
+bool Learner::answersAreOnShow() const
 {
     switch (mSession.player().step().condition.kind) {
     case Condition_click:
@@ -172,7 +187,7 @@ bool Autoplayer::answersAreOnShow() const
     }
 }
 
-bool Autoplayer::takeScreenshot()
+bool Learner::takeScreenshot()
 {
     if (mScreenshots.isEmpty())
         return true;
@@ -185,11 +200,11 @@ bool Autoplayer::takeScreenshot()
     const QString path = QStringLiteral("%1/%2.png").arg(mScreenshots, name.join(QLatin1Char('-')));
     const bool saved = QGuiApplication::primaryScreen()->grabWindow(0).save(path);
     if (!saved)
-        fail(QStringLiteral("the picture %1 cannot be written").arg(path));
+        end(QStringLiteral("the picture %1 cannot be written").arg(path));
     return saved;
 }
 
-void Autoplayer::act()
+void Learner::act()
 {
     const Step& step = mSession.player().step();
     const Condition& condition = step.condition;
@@ -216,7 +231,7 @@ void Autoplayer::act()
     }
 }
 
-void Autoplayer::enter(const Condition& condition)
+void Learner::enter(const Condition& condition)
 {
     const int number = condition.parameter(1).toInt();
     if (condition.kind == Condition_comboBox) {
@@ -233,7 +248,7 @@ void Autoplayer::enter(const Condition& condition)
 
 // Yes the first time and No when the step comes again, so that a loop ends and
 // both branches are played.
-void Autoplayer::clickAnswer(const Step& step)
+void Learner::clickAnswer(const Step& step)
 {
     // The two overlap in the middle: each is clicked at its outer edge.
     const QVector<QRect> buttons = answerButtons();
@@ -243,9 +258,11 @@ void Autoplayer::clickAnswer(const Step& step)
     mInput.click({no ? button.right() - fromEdge : button.left() + fromEdge, button.center().y()});
 }
 
-void Autoplayer::fail(const QString& reason)
+void Learner::end(const QString& error)
 {
+    if (!mTimer.isActive())
+        return;
     mTimer.stop();
-    QTextStream(stderr) << "tutorial-demo: failed: " << reason << '\n';
-    QCoreApplication::exit(1);
+    mToBeDone = false;
+    emit finished(error);
 }

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/autoplay/xinput.h"
+
+#include <QElapsedTimer>
+#include <QHash>
+#include <QObject>
+#include <QPoint>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+
+namespace TutorialHost {
+
+class Session;
+struct Condition;
+struct Step;
+
+// What Autoplay does, on the session that plays the scenario.
+class Learner : public QObject {
+    Q_OBJECT
+
+public:
+    // The arguments are as in Autoplay; begin begins to play a scenario file
+    // through the session, and is false when there is nothing to play.
+    Learner(Session& session, const std::function<bool(const QString& path)>& begin,
+        const QString& screenshots, int minutes);
+
+    void start(const QString& path);
+
+signals:
+    void progress(const QString& line);
+    // An empty error is success.
+    void finished(const QString& error);
+
+private:
+    // Why nothing can be played here; empty when it can.
+    QString obstacle() const;
+    void playRound();
+    void onFinished();
+    void onStepShown(const Step& step);
+    void onStepDone(const Step& step);
+    void tick();
+    bool arrowHasArrived();
+    // The tutorial's own buttons that are on show, from left to right.
+    QVector<QRect> answerButtons() const;
+    bool answersAreOnShow() const;
+    // False when it is not the time yet: the arrow is to be at rest.
+    bool takeScreenshot();
+    void act();
+    // The keys that follow the click into the field.
+    void enter(const Condition& condition);
+    void clickAnswer(const Step& step);
+    void end(const QString& error);
+
+    Session& mSession;
+    std::function<bool(const QString& path)> mBegin;
+    QString mScreenshots;
+    qint64 mPlayMs;
+    QString mPath;
+    XInput mInput;
+    QTimer mTimer;
+    QElapsedTimer mPlayTime;
+    int mRounds = 0;
+    // Since the step began, and since it was shown.
+    QElapsedTimer mStepTime;
+    QElapsedTimer mShownTime;
+    // The step is shown and has not been acted on yet.
+    bool mToBeDone = false;
+    int mPictures = 0;
+    // How often each step was shown in this round.
+    QHash<QString, int> mShown;
+};
+
+} // namespace TutorialHost
