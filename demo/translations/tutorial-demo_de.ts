@@ -706,6 +706,79 @@
     </message>
 </context>
 <context>
+    <name>TutorialHost::Target</name>
+    <message>
+        <source>no button and no menu shows the action now</source>
+        <translation>keine Schaltfläche und kein Menü zeigt die Aktion gerade</translation>
+    </message>
+    <message>
+        <source>it is outside of what can be seen</source>
+        <translation>es liegt außerhalb dessen, was zu sehen ist</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialHost::TargetPath</name>
+    <message>
+        <source>something stands behind its end</source>
+        <translation>hinter seinem Ende steht noch etwas</translation>
+    </message>
+    <message>
+        <source>nothing follows the last “\”</source>
+        <translation>auf das letzte „\“ folgt nichts</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>ein Anführungszeichen ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>a name is missing</source>
+        <translation>ein Name fehlt</translation>
+    </message>
+    <message>
+        <source>a “[” has no “]”</source>
+        <translation>zu einem „[“ fehlt das „]“</translation>
+    </message>
+    <message>
+        <source>nothing stands between “[” and “]”</source>
+        <translation>zwischen „[“ und „]“ steht nichts</translation>
+    </message>
+    <message>
+        <source>behind “@” stand two numbers from 0 to 1, with a comma between them</source>
+        <translation>hinter „@“ stehen zwei Zahlen von 0 bis 1 mit einem Komma dazwischen</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialHost::TargetResolver</name>
+    <message>
+        <source>its row is not on show</source>
+        <translation>seine Zeile wird nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>“%1” has no “%2”</source>
+        <translation>„%1“ hat kein „%2“</translation>
+    </message>
+    <message>
+        <source>“%1” is hidden, and nothing there shows it</source>
+        <translation>„%1“ ist verborgen, und nichts dort zeigt es</translation>
+    </message>
+    <message>
+        <source>there is no action “%1”</source>
+        <translation>es gibt keine Aktion „%1“</translation>
+    </message>
+    <message>
+        <source>nothing is called “%1”</source>
+        <translation>nichts heißt „%1“</translation>
+    </message>
+    <message>
+        <source>the window “%1” is not open</source>
+        <translation>das Fenster „%1“ ist nicht offen</translation>
+    </message>
+    <message>
+        <source>nothing in “%1” is called “%2”</source>
+        <translation>nichts in „%1“ heißt „%2“</translation>
+    </message>
+</context>
+<context>
     <name>all-conditions</name>
     <message>
         <source>This tour meets every condition once. &lt;b&gt;Wait&lt;/b&gt; three seconds.</source>

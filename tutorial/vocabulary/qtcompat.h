@@ -16,3 +16,15 @@ inline QString qtTranslationsPath()
     return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 #endif
 }
+
+// The widgets that show the action. A template, so that a program without
+// widgets can include this.
+template <typename Action>
+auto widgetsWith(const Action& action)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return action.associatedObjects();
+#else
+    return action.associatedWidgets();
+#endif
+}
