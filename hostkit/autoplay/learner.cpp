@@ -223,12 +223,20 @@ void Learner::act()
         QTimer::singleShot(kReactionMs, this, [this, condition] { enter(condition); });
         break;
     default:
-        if (step.icon == Icon_doubleClick)
-            mInput.doubleClick(target);
-        else
-            mInput.click(target, step.icon == Icon_rightClick ? XInput::Right : XInput::Left);
+        clickTarget(step.icon, target);
         break;
     }
+}
+
+// What a condition of the host's own asks for, the icon tells alone.
+void Learner::clickTarget(EnumIconKind icon, const QPoint& target)
+{
+    if (icon == Icon_doubleClick)
+        mInput.doubleClick(target);
+    else
+        mInput.click(target, icon == Icon_rightClick ? XInput::Right : XInput::Left);
+    if (icon == Icon_keyboard)
+        QTimer::singleShot(kReactionMs, this, [this] { mInput.type(kText); });
 }
 
 void Learner::enter(const Condition& condition)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hostkit/autoplay/xinput.h"
+#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -50,6 +51,7 @@ private:
     // False when it is not the time yet: the arrow is to be at rest.
     bool takeScreenshot();
     void act();
+    void clickTarget(Tutorial::EnumIconKind icon, const QPoint& target);
     // The keys that follow the click into the field.
     void enter(const Condition& condition);
     void clickAnswer(const Step& step);
