@@ -63,8 +63,7 @@ void Recovery::update()
         mTimer.start(kDelayMs);
         return;
     }
-    mUpdate.setFuture(
-        QtConcurrent::run([this, state = mState()] { return updateCopy(state); }));
+    mUpdate.setFuture(QtConcurrent::run([this, state = mState()] { return updateCopy(state); }));
 }
 
 void Recovery::onUpdated()

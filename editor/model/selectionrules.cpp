@@ -6,7 +6,6 @@
 #include <QBitArray>
 #include <QHash>
 
-
 using namespace TutorialEditor;
 
 namespace {
