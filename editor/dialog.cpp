@@ -3,23 +3,19 @@
 
 #include "editor/document/scenariodocument.h"
 #include "editor/form/formarea.h"
-#include "editor/form/textbox.h"
+#include "editor/form/stepform.h"
+#include "editor/history/stephistory.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
-#include "editor/scenario/condition.h"
 #include "editor/scenario/debuglog.h"
-#include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QEvent>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
+#include <QIcon>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QSettings>
 #include <QVBoxLayout>
@@ -29,49 +25,7 @@ using namespace TutorialEditor;
 namespace {
 
 constexpr QSize kIconSize(24, 24);
-constexpr int kCommentLines = 2;
-constexpr int kHintLines = 3;
-constexpr int kBoxCharacters = 7; // so many a combo box shows at least
-constexpr int kConditionCharacters = 11;
-
-// The actions of the host that a step can wait for. Some names stand for two
-// of its actions, so they are listed twice.
-const char* const kHostActions[] = {"New", "Edit", "Cut", "Copy", "Paste", "Delete", "Clear",
-    "Select All", "Undo", "Redo", "CopyAsText", "CopyAsHTML", "Test", "New Event Page",
-    "Copy Event Page", "Paste Event Page", "Clear Event Page", "Transfer", "Door", "Treasure",
-    "Inn", "Set Starting Position Player", "Set Starting Position Boat",
-    "Set Starting Position Ship", "Set Starting Position Airship", "New Project", "Open Project",
-    "Close Project", "Save Project", "Deployment", "Edit Map", "New Map", "New Map", "Load",
-    "mapShift", "Generate Dungeon", "Save as Image", "Edit Event", "Edit Event", "eventNew",
-    "eventNew", "editCut", "editCopy", "editPaste", "editDelete", "editUndo", "Map", "Event",
-    "Pencil", "Rectangle", "Ellipse", "Flood Fill", "Shadow Pen", "Zoom In", "Zoom Out",
-    "Actual Size", "Database", "Plugin Manager", "Sound Test", "Event Searcher",
-    "Character Generator", "Resource Manager", "Options", "Playtest", "Open Folder", "Contents",
-    "About", "Tutorial", "Exit", "Project Loaded"};
-
-// The names of a kind's enumeration, its last value being `last`.
-template <typename Kind, typename Name>
-QStringList kindNames(int last, Name name)
-{
-    QStringList names;
-    for (int kind = 0; kind <= last; ++kind)
-        names << name(static_cast<Kind>(kind));
-    return names;
-}
-
-QStringList windowKindNames()
-{
-    return kindNames<Tutorial::EnumWindowKind>(
-        Tutorial::WindowKindCount - 1, TutorialAction::getWindowKindName);
-}
-
-QStringList hostActions()
-{
-    QStringList names;
-    for (const char* name : kHostActions)
-        names << QLatin1String(name);
-    return names;
-}
+constexpr int kCompareDelayMs = 300;
 
 template <typename Widget>
 Widget* named(Widget* widget, const char* name, const QString& toolTip)
@@ -79,16 +33,6 @@ Widget* named(Widget* widget, const char* name, const QString& toolTip)
     widget->setObjectName(QLatin1String(name));
     widget->setToolTip(toolTip);
     return widget;
-}
-
-QComboBox* createBox(const char* name, const QStringList& rows, const QString& toolTip)
-{
-    auto* box = named(new QComboBox, name, toolTip);
-    box->addItems(rows);
-    // Not as wide as the longest name, so that the row fits a narrow window.
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(kBoxCharacters);
-    return box;
 }
 
 // A button that Return does not press.
@@ -99,29 +43,12 @@ QPushButton* createButton(const char* name, const QString& text, const QString& 
     return button;
 }
 
-struct RowWidget {
-    QWidget* widget;
-    int stretch; // its share of the row's width
-};
-
-// A row of the form; the label belongs to the first widget.
-QHBoxLayout* addRow(QFormLayout* form, QLabel* label, const QVector<RowWidget>& widgets)
+QVector<QIcon> iconsOf(const Model& model)
 {
-    auto* row = new QHBoxLayout;
-    for (const RowWidget& entry : widgets)
-        row->addWidget(entry.widget, entry.stretch);
-    form->addRow(label, row);
-    label->setBuddy(widgets.first().widget);
-    return row;
-}
-
-// One place for widgets of which at most one is shown.
-QLayout* createSlot(const QVector<QWidget*>& widgets)
-{
-    auto* slot = new QGridLayout;
-    for (QWidget* widget : widgets)
-        slot->addWidget(widget, 0, 0);
-    return slot;
+    QVector<QIcon> icons;
+    for (int kind = 0; kind < Tutorial::IconKindCount; ++kind)
+        icons << model.icon(static_cast<Tutorial::EnumIconKind>(kind)).value<QIcon>();
+    return icons;
 }
 
 } // namespace
@@ -135,7 +62,8 @@ Dialog::Dialog(QWidget* parent)
     setGeometry(QSettings()
                     .value(QStringLiteral("TutorialEditor.geometry"), QRect(200, 200, 200, 300))
                     .toRect());
-    mFormArea = new FormArea(createForm());
+    mForm = new StepForm(iconsOf(*mModel));
+    mFormArea = new FormArea(mForm);
     mAddField = createButton(
         "addField", tr("Add field"), tr("Shows a field that the step does not use yet"));
     mAddField->setMenu(new QMenu(mAddField));
@@ -156,10 +84,12 @@ Dialog::Dialog(QWidget* parent)
     // The geometry is the author's, whatever the font.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     setLayout(layout);
+    createMenuBar();
     connectForm();
+    connectHistory();
 
     QWidget* previous = mTreeView;
-    for (QWidget* widget : formWidgets() + QVector<QWidget*>{mAddField, mSave}) {
+    for (QWidget* widget : mForm->editors() + QVector<QWidget*>{mAddField, mSave}) {
         setTabOrder(previous, widget);
         previous = widget;
     }
@@ -170,6 +100,8 @@ Dialog::~Dialog()
 {
     EDITOR_DEBUG;
     // The view first: it must not speak of a model that goes away.
+    mHistory->stack()->disconnect(this);
+    mHistory->clear();
     delete mTreeView;
     delete mModel;
 }
@@ -180,6 +112,7 @@ void Dialog::createTree()
     mModel->setHorizontalHeaderItem(0, new QStandardItem(tr("Item")));
     mTreeView = named(new TreeView(this), "steps",
         tr("The steps of the tutorial. Space starts it from the selected step."));
+    mHistory = new StepHistory(mModel, mTreeView, this);
     mTreeView->setIconSize(kIconSize);
     mTreeView->setUniformRowHeights(true);
     mTreeView->setModel(mModel);
@@ -236,178 +169,69 @@ void Dialog::createContextMenu()
         &Dialog::onUngroupingTriggered);
 }
 
-QWidget* Dialog::createForm()
+void Dialog::createMenuBar()
 {
-    auto* form = new QWidget;
-    auto* layout = new QFormLayout(form);
-    layout->setContentsMargins(0, 0, 0, 0);
-
-    mX = named(new QLineEdit, "x",
-        tr("Pixels from the left edge of the followed window to the point that the step shows"));
-    mY = named(new QLineEdit, "y",
-        tr("Pixels from the top edge of the followed window to the point that the step shows"));
-    mFollowWindow = createBox("followWindow", windowKindNames(),
-        tr("The window of the editor that the indicator follows"));
-    mRefWindow = createButton("refWindow", tr("RefWindow"),
-        tr("Follows the window of the editor that was in front last"));
-    auto* xLabel = new QLabel(tr("X:"));
-    auto* yLabel = new QLabel(tr("Y:"));
-    addRow(layout, xLabel, {{mX, 1}, {yLabel, 0}, {mY, 1}, {mFollowWindow, 2}, {mRefWindow, 0}});
-    yLabel->setBuddy(mY);
-
-    mComment = named(new TextBox(kCommentLines), "comment", tr("A note of the author's"));
-    mCommentTranslation = named(new QLabel, "commentTranslation", tr("The note, translated"));
-    mCommentTranslation->setWordWrap(true);
-    mCommentTranslation->setTextFormat(Qt::PlainText);
-    auto* commentLabel = new QLabel(tr("log comment:"));
-    addRow(layout, commentLabel, {{mComment, 1}, {mCommentTranslation, 1}});
-
-    mHint = named(new TextBox(kHintLines), "hint",
-        tr("What the balloon says; qsTr(\"…\") around it makes it translatable"));
-    mHintTranslation = named(new TextBox(kHintLines), "hintTranslation",
-        tr("The hint as the learner sees it, translated by the editor"));
-    mHintTranslation->setReadOnly(true);
-    auto* hintLabel = new QLabel(tr("hint:"));
-    addRow(layout, hintLabel, {{mHint, 1}, {mHintTranslation, 1}});
-
-    mCondition = createBox("condition",
-        kindNames<Tutorial::EnumConditionKind>(
-            Tutorial::ConditionKindCount - 1, Tutorial::getConditionKindName),
-        tr("What the learner has to do before the next step comes"));
-    mParameterBoxes = {
-        createBox("conditionWindow", windowKindNames(), tr("The window that is waited for")),
-        createBox("windowState",
-            {QStringLiteral("open"), QStringLiteral("close"), QStringLiteral("ok"),
-                QStringLiteral("cancel")},
-            tr("What has to happen to the window")),
-        createBox("list",
-            {QStringLiteral("listBox1"), QStringLiteral("listBox2"), QStringLiteral("Map")},
-            tr("Where the mouse has to be used")),
-        createBox("mouseEvent", {QStringLiteral("click"), QStringLiteral("doubleClick")},
-            tr("What the mouse has to do")),
-        createBox("comparison",
-            {QStringLiteral("="), QStringLiteral("<"), QStringLiteral("<="), QStringLiteral(">"),
-                QStringLiteral(">="), QStringLiteral("!=")},
-            tr("How the value has to compare with the number beside")),
-        createBox("hostAction", hostActions(), tr("The action that has to be chosen")),
-    };
-    mParameters = {
-        named(new QLineEdit, "parameter1", QString()),
-        named(new QLineEdit, "parameter2", QString()),
-        named(new QLineEdit, "parameter3", QString()),
-    };
-    mCondition->setMinimumContentsLength(kConditionCharacters);
-    auto* conditionLabel = new QLabel(tr("condition:"));
-    QHBoxLayout* conditionRow = addRow(layout, conditionLabel, {{mCondition, 1}});
-    conditionRow->addLayout(
-        createSlot({parameterBox(ParameterView::ConditionWindow), parameterBox(ParameterView::List),
-            parameterBox(ParameterView::Comparison), parameterBox(ParameterView::HostAction),
-            mParameters[0]}),
-        2);
-    conditionRow->addLayout(createSlot({parameterBox(ParameterView::WindowState),
-                                parameterBox(ParameterView::MouseEvent), mParameters[1]}),
-        1);
-    conditionRow->addWidget(mParameters[2], 1);
-
-    mIcon = createBox("icon", {}, tr("The picture beside the arrow"));
-    for (int kind = 0; kind < Tutorial::IconKindCount; ++kind) {
-        const auto iconKind = static_cast<Tutorial::EnumIconKind>(kind);
-        mIcon->addItem(mModel->icon(iconKind).value<QIcon>(), Tutorial::getIconKindName(iconKind));
-    }
-    mIcon->setIconSize(kIconSize);
-
-    mCommand = createBox("command",
-        kindNames<Tutorial::EnumCommandKind>(
-            Tutorial::CommandKindCount, Tutorial::getCommandKindName),
-        tr("What the editor does when the step begins; the empty row is nothing"));
-    mCommandParameter = named(new QLineEdit, "commandParameter", tr("What the command works on"));
-    auto* iconLabel = new QLabel(tr("icon:"));
-    auto* commandLabel = new QLabel(tr("command:"));
-    addRow(
-        layout, iconLabel, {{mIcon, 1}, {commandLabel, 0}, {mCommand, 1}, {mCommandParameter, 1}});
-    commandLabel->setBuddy(mCommand);
-
-    mLabel = named(new QLineEdit, "label", tr("The name by which other steps go to this one"));
-    mShowArrow = named(new QCheckBox(tr("Show arrow")), "showArrow",
-        tr("Whether the arrow points at the step's point"));
-    auto* labelLabel = new QLabel(tr("label:"));
-    addRow(layout, labelLabel, {{mLabel, 1}, {mShowArrow, 0}});
-
-    mFormFields = {
-        {XField, tr("Position"), {mX, xLabel}},
-        {YField, QString(), {mY, yLabel}},
-        {FollowWindowField, tr("Followed window"), {mFollowWindow}},
-        {CommentField, tr("Comment"), {mComment, commentLabel, mCommentTranslation}},
-        {HintField, tr("Hint"), {mHint, hintLabel, mHintTranslation}},
-        {ConditionField, tr("Condition"), {mCondition, conditionLabel}},
-        {IconField, tr("Icon"), {mIcon, iconLabel}},
-        {LabelField, tr("Label"), {mLabel, labelLabel}},
-        {CommandField, tr("Command"), {mCommand, commandLabel}},
-        {CommandParameterField, QString(), {mCommandParameter}},
-        {ShowArrowField, tr("Hidden arrow"), {mShowArrow}},
-    };
-    // The form keeps its shape while fields come and go.
-    for (QWidget* widget : form->findChildren<QWidget*>()) {
-        QSizePolicy policy = widget->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        widget->setSizePolicy(policy);
-    }
-    return form;
+    auto* bar = new QMenuBar;
+    auto* edit = new QMenu(tr("&Edit"), bar);
+    bar->addMenu(edit);
+    QUndoStack* stack = mHistory->stack();
+    QAction* undo = stack->createUndoAction(this, tr("&Undo"));
+    undo->setObjectName(QStringLiteral("undo"));
+    undo->setShortcuts(QKeySequence::Undo);
+    QAction* redo = stack->createRedoAction(this, tr("&Redo"));
+    redo->setObjectName(QStringLiteral("redo"));
+    redo->setShortcuts(QKeySequence::Redo);
+    edit->addActions({undo, redo});
+    layout()->setMenuBar(bar);
 }
 
 void Dialog::connectForm()
 {
-    connect(mX, &QLineEdit::textChanged, this, &Dialog::onXChanged);
-    connect(mY, &QLineEdit::textChanged, this, &Dialog::onYChanged);
-    connect(mFollowWindow, &QComboBox::currentTextChanged, this,
-        &Dialog::onFollowWindowCurrentIndexChanged);
-    connect(mRefWindow, &QPushButton::clicked, this, &Dialog::onRefWindowClicked);
-    connect(mComment, &QTextEdit::textChanged, this, &Dialog::onCommentChanged);
-    connect(mHint, &QTextEdit::textChanged, this, &Dialog::onHintChanged);
+    connect(mForm, &StepForm::xChanged, this, &Dialog::onXChanged);
+    connect(mForm, &StepForm::yChanged, this, &Dialog::onYChanged);
     connect(
-        mCondition, &QComboBox::currentTextChanged, this, &Dialog::onConditionCurrentIndexChanged);
-    for (QComboBox* box : mParameterBoxes)
-        connect(box, &QComboBox::currentTextChanged, this, &Dialog::onConditionBoxChanged);
-    for (QLineEdit* parameter : mParameters)
-        connect(parameter, &QLineEdit::textChanged, this, &Dialog::onConditionParamChanged);
-    connect(mIcon, &QComboBox::currentTextChanged, this, &Dialog::onIconCurrentIndexChanged);
-    connect(mCommand, &QComboBox::currentTextChanged, this, &Dialog::onCommandCurrentIndexChanged);
-    connect(mCommandParameter, &QLineEdit::textChanged, this, &Dialog::onCommandParamChanged);
-    connect(mLabel, &QLineEdit::textChanged, this, &Dialog::onLabelChanged);
-    connect(mShowArrow, &QCheckBox::stateChanged, this, &Dialog::onArrowVisibleChanged);
+        mForm, &StepForm::followWindowChanged, this, &Dialog::onFollowWindowCurrentIndexChanged);
+    connect(mForm, &StepForm::refWindowClicked, this, &Dialog::onRefWindowClicked);
+    connect(mForm, &StepForm::targetChanged, this, &Dialog::onTargetChanged);
+    connect(mForm, &StepForm::commentChanged, this, &Dialog::onCommentChanged);
+    connect(mForm, &StepForm::hintChanged, this, &Dialog::onHintChanged);
+    connect(mForm, &StepForm::conditionChanged, this, &Dialog::onConditionCurrentIndexChanged);
+    connect(mForm, &StepForm::conditionParameterChanged, this, &Dialog::onConditionParamChanged);
+    connect(mForm, &StepForm::iconChanged, this, &Dialog::onIconCurrentIndexChanged);
+    connect(mForm, &StepForm::commandChanged, this, &Dialog::onCommandCurrentIndexChanged);
+    connect(mForm, &StepForm::commandParameterChanged, this, &Dialog::onCommandParamChanged);
+    connect(mForm, &StepForm::labelChanged, this, &Dialog::onLabelChanged);
+    connect(mForm, &StepForm::showArrowChanged, this, &Dialog::onArrowVisibleChanged);
+    connect(mForm, &StepForm::fieldAdded, this, &Dialog::onFieldAdded);
     connect(mAddField->menu(), &QMenu::aboutToShow, this, &Dialog::onAddFieldMenu);
     connect(mSave, &QPushButton::clicked, this, &Dialog::onSaveClicked);
-
-    for (QWidget* widget : formWidgets()) {
-        if (qobject_cast<QComboBox*>(widget))
-            widget->installEventFilter(this);
-    }
+    for (QWidget* widget : mForm->editors())
+        widget->installEventFilter(this);
 }
 
-QVector<QWidget*> Dialog::formWidgets() const
+void Dialog::connectHistory()
 {
-    QVector<QWidget*> widgets{
-        mX, mY, mFollowWindow, mRefWindow, mComment, mHint, mHintTranslation, mCondition};
-    for (QComboBox* box : mParameterBoxes)
-        widgets << box;
-    for (QLineEdit* parameter : mParameters)
-        widgets << parameter;
-    return widgets << mIcon << mCommand << mCommandParameter << mLabel << mShowArrow;
-}
-
-QComboBox* Dialog::parameterBox(ParameterView view) const
-{
-    return isBox(view)
-        ? mParameterBoxes.at(std::size_t(view) - std::size_t(ParameterView::ConditionWindow))
-        : nullptr;
+    connect(mForm, &StepForm::fieldEntered, mHistory, &StepHistory::endTyping);
+    connect(mHistory, &StepHistory::stepChanged, this, &Dialog::onStepChanged);
+    connect(mHistory, &StepHistory::fieldsShown, this, &Dialog::onFieldsShown);
+    connect(mHistory, &StepHistory::rowsReturned, this, &Dialog::requestMissing);
+    connect(mHistory, &StepHistory::rowsChanged, this, [this] { mTreeView->setFocus(); });
+    mCompare.setSingleShot(true);
+    mCompare.setInterval(kCompareDelayMs);
+    connect(&mCompare, &QTimer::timeout, this, &Dialog::compareWithSaved);
+    connect(mHistory->stack(), &QUndoStack::indexChanged, this, &Dialog::updateModified);
+    connect(mHistory->stack(), &QUndoStack::cleanChanged, this, &Dialog::updateModified);
 }
 
 bool Dialog::eventFilter(QObject* watched, QEvent* event)
 {
-    // Scrolling the form must not change the box that comes below the cursor.
-    const auto* box = qobject_cast<QComboBox*>(watched);
-    if (event->type() != QEvent::Wheel || !box || box->hasFocus())
-        return QDialog::eventFilter(watched, event);
-    event->ignore();
-    return true;
+    // A field's own history must not take the keys of the scenario's.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }

@@ -2,29 +2,23 @@
 #pragma once
 
 #include "editor/model/stepeditor.h"
-#include "editor/scenario/condition.h"
 #include "editor/scenario/stepfields.h"
 
 #include <QDialog>
-#include <QVector>
+#include <QTimer>
 
-#include <array>
-
-class QCheckBox;
-class QComboBox;
 class QJsonArray;
-class QLabel;
-class QLineEdit;
 class QMenu;
 class QPushButton;
 class QStandardItem;
-class QTextEdit;
 
 namespace TutorialEditor {
 
 class FormArea;
 class Model;
 class ScenarioDocument;
+class StepForm;
+class StepHistory;
 class TreeView;
 class TutorialItem;
 
@@ -50,6 +44,7 @@ public:
     void getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, bool compact) const;
     Model* model() const { return mModel; }
     ScenarioDocument* document() const { return mDocument; }
+    StepHistory* history() const { return mHistory; }
 
     // Loads a scenario and shows the dialog. text: the file's, without comments
     // and markers; errors: what was found wrong with it until now; fileText: all of
@@ -59,8 +54,8 @@ public:
         const QString& fileText = QString());
     // Empties the tree: what is open has a file that cannot be read.
     void clearContents();
-    // Loads what the document's file holds now. The selected step stays selected
-    // when it still exists. What was changed is given up.
+    // Loads what the document's file holds now, which can be undone. The selected
+    // step stays selected when it still exists.
     void reload();
     // Takes steps, with the contents of groups, in place of those in the tree, as
     // changes that are not saved, and shows the dialog.
@@ -113,19 +108,20 @@ private slots:
 
     void onXChanged(const QString& text);
     void onYChanged(const QString& text);
-    void onFollowWindowCurrentIndexChanged();
+    void onFollowWindowCurrentIndexChanged(const QString& text);
     void onRefWindowClicked();
     void onCommentChanged();
     void onHintChanged();
-    void onConditionCurrentIndexChanged();
-    void onConditionBoxChanged();
-    void onConditionParamChanged(const QString& text);
+    void onConditionCurrentIndexChanged(const QString& text);
+    void onConditionParamChanged(const QString& text, int parameter);
     void onIconCurrentIndexChanged(const QString& text);
     void onCommandCurrentIndexChanged(const QString& text);
     void onCommandParamChanged(const QString& text);
     void onLabelChanged(const QString& text);
     void onArrowVisibleChanged(int state);
+    void onTargetChanged(const QString& text);
     void onAddFieldMenu();
+    void onFieldAdded(TutorialEditor::ShownFields fields, const QString& name, QWidget* widget);
     void onSaveClicked();
 
 protected:
@@ -133,41 +129,43 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // A field of the form, and what is shown and hidden with it.
-    struct FormField {
-        StepField field;
-        QString name; // in the menu of fields to add; empty for one that comes with the one before
-        QVector<QWidget*> widgets; // the first one gets the focus
-    };
-
     // Construction.
     void createTree();
     void createContextMenu();
-    QWidget* createForm();
+    void createMenuBar();
     void connectForm();
-    // What can be edited or pressed, in the order of the Tab key.
-    QVector<QWidget*> formWidgets() const;
-    QComboBox* parameterBox(ParameterView view) const;
+    void connectHistory();
 
     // Loading.
     void bringToFront();
     void fillForm(const StepFields& fields);
+    // Asks the host for the translation of one hint. rows: the item's action index
+    // list.
+    void localizeItem(const TutorialItem* item, const QList<int>& rows);
 
     // Editing.
-    StepFields heldFields() const;
-    const ConditionParameters& shownParameters() const;
-    void setEditConditionDefault();
-    void adjustComboBox();
-    // handler: what a debug line calls the change.
-    void onFieldChanged(const char* handler, const QString& text);
-    void onValueChanged();
-    // Shows a row of mFormFields, and those without a name after it.
-    void addField(int i);
-    void showFields(ShownFields fields);
+    // handler: what a debug line calls the change. isTyping: with other typing in
+    // the field it is one act.
+    void onFieldChanged(
+        const char* handler, const QString& text, StepField field, bool isTyping = true);
+    // name: what the menu calls the act; empty for a change of the field.
+    void onValueChanged(StepField field, bool isTyping, const QString& name = QString());
     void requestUntr(const QString& key, const QString& text) const;
     void checkTreeBox() const;
     // Points the overlay at the step in the form; x, y: kNoCoordinate for none.
     void pointIndicator(int x, int y) const;
+
+    // History.
+    void showStep(TutorialItem* item);
+    void onStepChanged(TutorialEditor::TutorialItem* item, TutorialEditor::StepField field);
+    void onFieldsShown(
+        TutorialEditor::TutorialItem* item, TutorialEditor::ShownFields fields, bool isShown);
+    // Asks for the translations that rows of a level do not have.
+    void requestMissing(QStandardItem* level, int first, int count);
+    // The title tells whether there is something to save.
+    void updateModified();
+    void compareWithSaved();
+    void markModified(bool isModified);
 
     // Commands.
     // Whether the item in the form is one of these rows of a level, or below.
@@ -176,39 +174,24 @@ private:
     QJsonArray getSteps(const QList<QModelIndex>& indexes) const;
     // Puts the top ones on the clipboard and returns the text that it got.
     QString copyToClipboard(const QList<QModelIndex>& indexes) const;
-    // Removes the top ones and selects what took their place: the row there, or
-    // the step above when that is an end marker and there is one.
-    void removeRows(const QList<QModelIndex>& indexes);
+    void ungroup(QStandardItem* group);
     // Has the host play the saved scenario from a step.
     void start(TutorialItem* item);
 
     Model* mModel;
     TreeView* mTreeView = nullptr;
     QMenu* mContextMenu = nullptr;
-    QLineEdit* mX = nullptr;
-    QLineEdit* mY = nullptr;
-    QComboBox* mFollowWindow = nullptr;
-    QPushButton* mRefWindow = nullptr;
-    QTextEdit* mComment = nullptr;
-    QLabel* mCommentTranslation = nullptr;
-    QTextEdit* mHint = nullptr;
-    QTextEdit* mHintTranslation = nullptr;
-    QComboBox* mCondition = nullptr;
-    std::array<QComboBox*, 6> mParameterBoxes{}; // in the order of ParameterView
-    std::array<QLineEdit*, 3> mParameters{};
-    QComboBox* mIcon = nullptr;
-    QComboBox* mCommand = nullptr;
-    QLineEdit* mCommandParameter = nullptr;
-    QLineEdit* mLabel = nullptr;
-    QCheckBox* mShowArrow = nullptr;
+    StepForm* mForm = nullptr;
+    FormArea* mFormArea = nullptr;
     QPushButton* mAddField = nullptr;
     QPushButton* mSave = nullptr;
-    QVector<FormField> mFormFields;
-    FormArea* mFormArea = nullptr;
 
     TutorialItem* mItem = nullptr; // in the form; the model owns it
     StepFields mFields; // what the form held after the last load or rebuild
     ScenarioDocument* const mDocument;
+    StepHistory* mHistory = nullptr;
+    QTimer mCompare; // runs from an act on
+    qint64 mCompareMs = 0; // what the last comparison took
 };
 
 } // namespace TutorialEditor

@@ -2,6 +2,7 @@
 #include "editor/dialog.h"
 
 #include "editor/errorbox.h"
+#include "editor/history/stephistory.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
 #include "editor/model/tutorialitem.h"
@@ -20,12 +21,59 @@
 #include <QMessageBox>
 #include <QMimeData>
 
+#include <algorithm>
+
 using namespace TutorialEditor;
 
 namespace {
 
 // Beside the text, which a group's hint may keep from being JSON.
 const QString kStepsFormat = QStringLiteral("application/x-tutorial-steps");
+// A character for each group among them, an outer one before those in it: whether
+// it is open.
+const QString kExpandedFormat = QStringLiteral("application/x-tutorial-expanded");
+
+QList<QStandardItem*> rowsOf(const QStandardItem* level, int first, int count)
+{
+    QList<QStandardItem*> rows;
+    for (int row = first; row < first + count; ++row)
+        rows << level->child(row);
+    return rows;
+}
+
+QVector<QStandardItem*> groupsOf(const QList<QStandardItem*>& items)
+{
+    QVector<QStandardItem*> groups;
+    for (QStandardItem* item : items) {
+        if (item->rowCount() > 0)
+            groups << item << groupsOf(rowsOf(item, 0, item->rowCount()));
+    }
+    return groups;
+}
+
+QByteArray expansionOf(const TreeView& view, const QList<QStandardItem*>& items)
+{
+    QByteArray expansion;
+    for (const QStandardItem* group : groupsOf(items))
+        expansion += view.isExpanded(group->index()) ? '1' : '0';
+    return expansion;
+}
+
+void expandAs(
+    TreeView* view, const QStandardItem* level, int first, int count, const QByteArray& expansion)
+{
+    const QVector<QStandardItem*> groups = groupsOf(rowsOf(level, first, count));
+    for (int i = 0; i < std::min<int>(groups.size(), expansion.size()); ++i)
+        view->setExpanded(groups.at(i)->index(), expansion.at(i) == '1');
+}
+
+// What the menu calls a command on these steps.
+QString actName(const QString& command, const QJsonArray& steps)
+{
+    const int count = StepHistory::stepCount(steps);
+    return count == 1 ? Dialog::tr("%1 of a Step").arg(command)
+                      : Dialog::tr("%1 of %2 Steps").arg(command).arg(count);
+}
 
 } // namespace
 
@@ -88,7 +136,8 @@ void Dialog::insertNewItem(TutorialItem* item)
         {QStringLiteral("comment"), QString()}, {QStringLiteral("hint"), QString()},
         {QStringLiteral("condition"), QStringLiteral("click")},
         {QStringLiteral("icon"), Tutorial::getIconKindName(Tutorial::Icon_click)}};
-    level->insertRow(row, mModel->createItem(step, mModel->levelDepth(level)));
+    QStringList errors;
+    mHistory->insert(level, row, QJsonArray{step}, &errors, tr("New Step"));
     mTreeView->selectRows(level, row, row);
 }
 
@@ -96,7 +145,7 @@ void Dialog::onDeleteTriggered()
 {
     const QList<QModelIndex> selected = mTreeView->getSelectedIndexes();
     EDITOR_DEBUG << mModel->getModelIndexListStr(selected);
-    removeRows(selected);
+    mHistory->remove(selected, actName(tr("Delete"), getSteps(mModel->getTopIndexes(selected))));
 }
 
 void Dialog::onCutTriggered()
@@ -107,22 +156,7 @@ void Dialog::onCutTriggered()
     if (!selected.isEmpty() && mModel->getMinimumDepth(selected) < 0)
         return;
     copyToClipboard(selected);
-    removeRows(selected);
-}
-
-void Dialog::removeRows(const QList<QModelIndex>& indexes)
-{
-    if (mModel->getMinimumDepth(indexes) < 0)
-        return;
-    const QModelIndex first = mModel->getTopIndexes(indexes).first();
-    QStandardItem* level = mModel->levelOf(mModel->itemFromIndex(first));
-    int row = first.row();
-    // The selection rules must not take back a row that is about to go.
-    mTreeView->clearSelection();
-    mModel->removeModelIndexList(indexes);
-    if (row > 0 && TutorialItem::from(level->child(row))->isEndMarker())
-        --row;
-    mTreeView->selectRows(level, row, row);
+    mHistory->remove(selected, actName(tr("Cut"), getSteps(mModel->getTopIndexes(selected))));
 }
 
 void Dialog::onCopyTriggered()
@@ -143,11 +177,15 @@ QString Dialog::copyToClipboard(const QList<QModelIndex>& indexes) const
     QList<QModelIndex> top = mModel->getTopIndexes(indexes);
     EDITOR_DEBUG << mModel->getModelIndexListStr(top);
     const QJsonArray steps = getSteps(top);
+    QList<QStandardItem*> items;
+    for (const QModelIndex& index : qAsConst(top))
+        items << mModel->itemFromIndex(index);
     QString text;
     getJsonText(mModel->getMinimumDepth(indexes), top, text, true);
     auto* content = new QMimeData;
     content->setText(text);
     content->setData(kStepsFormat, QJsonDocument(steps).toJson(QJsonDocument::Compact));
+    content->setData(kExpandedFormat, expansionOf(*mTreeView, items));
     QGuiApplication::clipboard()->setMimeData(content, QClipboard::Clipboard);
     return text;
 }
@@ -171,9 +209,12 @@ void Dialog::onPasteTriggered()
         errors.clear();
     const TutorialItem* anchor = mModel->itemAt(selected.first());
     QStandardItem* level = mModel->levelOf(anchor);
-    if (errors.isEmpty())
-        mModel->insertJsonRow(
-            level, anchor->row(), mModel->levelDepth(level), steps, &errors, true);
+    const int row = anchor->row();
+    if (errors.isEmpty()) {
+        const int count = mHistory->insert(level, row, steps, &errors, actName(tr("Paste"), steps));
+        expandAs(mTreeView, level, row, count, content->data(kExpandedFormat));
+        requestMissing(level, row, count);
+    }
     showErrors(tr("Parse error"), errors);
 }
 
@@ -194,7 +235,7 @@ void Dialog::onGroupingTriggered()
         if (index.parent() == first.parent() && !mModel->itemAt(index)->isEndMarker())
             siblings << index;
     }
-    mModel->grouping(mTreeView, QStringLiteral("group"), siblings);
+    mHistory->group(QStringLiteral("group"), siblings, actName(tr("Group"), getSteps(siblings)));
 }
 
 void Dialog::onUngroupingTriggered()
@@ -207,7 +248,7 @@ void Dialog::onUngroupingTriggered()
     const QModelIndex first = top.first();
     const int contents = mModel->rowCount(first);
     if (contents > 0 && contents == selected.size() - 1) {
-        mModel->ungrouping(mTreeView, mModel->itemFromIndex(first));
+        ungroup(mModel->itemFromIndex(first));
         return;
     }
     EDITOR_DEBUG << first.parent();
@@ -216,9 +257,19 @@ void Dialog::onUngroupingTriggered()
     };
     if (std::all_of(selected.begin(), selected.end(), isSibling)
         && mModel->rowCount(first.parent()) == selected.size())
-        mModel->ungrouping(mTreeView, mModel->itemFromIndex(first.parent()));
+        ungroup(mModel->itemFromIndex(first.parent()));
     else
         EDITOR_DEBUG << "not a group";
+}
+
+void Dialog::ungroup(QStandardItem* group)
+{
+    if (!group)
+        return;
+    QList<QModelIndex> steps;
+    for (int row = 0; row < group->rowCount(); ++row)
+        steps << group->child(row)->index();
+    mHistory->ungroup(group, actName(tr("Ungroup"), getSteps(steps)));
 }
 
 void Dialog::onMousePosTriggered()

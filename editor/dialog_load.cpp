@@ -3,22 +3,18 @@
 
 #include "editor/document/scenariodocument.h"
 #include "editor/errorbox.h"
+#include "editor/form/stepform.h"
+#include "editor/history/stephistory.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
 #include "editor/model/tutorialitem.h"
-#include "editor/scenario/condition.h"
 #include "editor/scenario/debuglog.h"
 #include "editor/scenario/jsonescape.h"
 #include "editor/scenario/scenarioreader.h"
 #include "tutorial/runtime/tutorialmanager.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QJsonArray>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QTextEdit>
 
 using namespace TutorialEditor;
 
@@ -76,6 +72,7 @@ TutorialItem* findAgain(Model* model, const QJsonObject& step, const QList<int>&
 
 void Dialog::setContents(const QString& text, QStringList errors, const QString& fileText)
 {
+    mHistory->clear();
     mModel->setContents(text, &errors, fileText);
     mDocument->setLoaded(getCurrentSteps(), errors.isEmpty());
     showErrors(tr("Parse error"), errors);
@@ -85,6 +82,7 @@ void Dialog::setContents(const QString& text, QStringList errors, const QString&
 void Dialog::clearContents()
 {
     QStringList errors;
+    mHistory->clear();
     mModel->setSteps(QJsonArray(), &errors);
     mDocument->setLoaded(QJsonArray(), false);
     bringToFront();
@@ -100,7 +98,11 @@ void Dialog::reload()
     QStringList errors;
     if (!mDocument->reload(&text, &errors))
         return;
-    setContents(removeMarkers(removeComments(text)), errors, text);
+    const QJsonArray steps = readSteps(removeMarkers(removeComments(text)), &errors, text);
+    mHistory->replaceAll(steps, &errors, tr("Reload"));
+    mDocument->setLoaded(getCurrentSteps(), errors.isEmpty());
+    mHistory->stack()->setClean();
+    showErrors(tr("Parse error"), errors);
     localizeAll();
     if (step.isEmpty())
         return;
@@ -112,7 +114,7 @@ void Dialog::recover(const QJsonArray& steps)
 {
     // What is wrong with a step was told when it was read from the file.
     QStringList errors;
-    mModel->setSteps(steps, &errors);
+    mHistory->replaceAll(steps, &errors, tr("Recovery"));
     bringToFront();
 }
 
@@ -136,18 +138,23 @@ void Dialog::localizeSub(QStandardItem* item)
     for (int row = 0; row < item->rowCount(); ++row) {
         QStandardItem* child = item->child(row);
         localizeSub(child);
-        const TutorialItem* step = TutorialItem::from(child);
-        const QJsonValue hint = step ? step->step().value(kHint) : QJsonValue::Undefined;
-        if (!hint.isUndefined())
-            requestUntr(kHint + rowsText(rows + QList<int>{row}), hint.toString());
+        localizeItem(TutorialItem::from(child), rows + QList<int>{row});
     }
+}
+
+void Dialog::localizeItem(const TutorialItem* item, const QList<int>& rows)
+{
+    const QJsonValue hint = item ? item->step().value(kHint) : QJsonValue::Undefined;
+    if (!hint.isUndefined())
+        requestUntr(kHint + rowsText(rows), hint.toString());
 }
 
 void Dialog::linkToEdit(TutorialItem* item)
 {
     EDITOR_DEBUG << logged(item ? item->text() : QString());
     mItem = item && !item->isEndMarker() ? item : nullptr;
-    mRefWindow->setEnabled(mItem && !mItem->isGroup());
+    mHistory->endTyping();
+    mForm->setRefWindowEnabled(mItem && !mItem->isGroup());
     mAddField->setEnabled(mItem);
     if (!mItem) {
         fillForm(StepFields());
@@ -168,55 +175,21 @@ void Dialog::linkToEdit(TutorialItem* item)
 
 void Dialog::fillForm(const StepFields& fields)
 {
-    for (QWidget* widget : formWidgets())
-        widget->blockSignals(true);
-    mX->setText(fields.x);
-    mY->setText(fields.y);
-    mFollowWindow->setCurrentIndex(mFollowWindow->findText(fields.followWindow));
-    mComment->setPlainText(fields.comment);
-    mCommentTranslation->clear();
-    mHint->setPlainText(fields.hint);
-    mHintTranslation->setPlainText(mItem ? mItem->translation() : QString());
-    mCondition->setCurrentIndex(mCondition->findText(fields.condition));
-    for (QComboBox* box : mParameterBoxes)
-        box->setCurrentIndex(0);
-    for (std::size_t i = 0; i < mParameters.size(); ++i) {
-        mParameters[i]->setText(fields.parameters[i]);
-        mParameters[i]->hide();
-    }
-    mIcon->setCurrentIndex(mIcon->findText(fields.icon));
-    mCommand->setCurrentIndex(mCommand->findText(fields.command));
-    mCommandParameter->setText(fields.commandParameter);
-    mLabel->setText(fields.label);
-    mShowArrow->setChecked(fields.showArrow);
-
-    for (const FormField& field : qAsConst(mFormFields)) {
-        for (QWidget* widget : field.widgets)
-            widget->setVisible(fields.shown & field.field);
-    }
-    adjustComboBox();
-    // A box that does not know its parameter is left empty, so that each of its
-    // rows can be chosen.
-    const ConditionParameters& parameters = shownParameters();
-    for (std::size_t i = 0; i < parameters.size(); ++i) {
-        if (QComboBox* box = parameterBox(parameters[i].view))
-            box->setCurrentIndex(box->findText(fields.boxes[i]));
-    }
-    for (QWidget* widget : formWidgets())
-        widget->blockSignals(false);
-    mFields = heldFields();
+    mForm->setFields(fields);
+    mForm->setHintTranslation(mItem ? mItem->translation() : QString());
+    mFields = mForm->fields();
 }
 
 void Dialog::untrCallback(const QString& first, const QString& second)
 {
     const QString text = lookedUpText(second);
     if (first == kComment) {
-        mCommentTranslation->setText(text);
+        mForm->setCommentTranslation(text);
     } else if (first == kHint) {
-        mHintTranslation->setPlainText(text);
+        mForm->setHintTranslation(text);
         if (mItem)
             setLocalized(mItem, text);
-        pointIndicator(mX->text().toInt(), mY->text().toInt());
+        pointIndicator(mFields.x.toInt(), mFields.y.toInt());
     } else if (first.startsWith(kHint)) {
         QList<int> rows;
         for (const QString& row : first.mid(kHint.size()).split(QLatin1Char(',')))

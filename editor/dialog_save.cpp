@@ -2,6 +2,7 @@
 #include "editor/dialog.h"
 
 #include "editor/document/scenariodocument.h"
+#include "editor/history/stephistory.h"
 #include "editor/manager.h"
 #include "editor/model/model.h"
 #include "editor/model/tutorialitem.h"
@@ -79,6 +80,10 @@ void Dialog::getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, b
 void Dialog::setLastJson(const QString& json)
 {
     mDocument->setSaved(json);
+    if (mDocument->isSaved(getCurrentJson()))
+        mHistory->stack()->setClean();
+    else
+        mHistory->stack()->resetClean();
 }
 
 bool Dialog::isSaved() const
@@ -121,6 +126,7 @@ bool Dialog::write(const QString& json)
     }
     if (report.result != ScenarioDocument::Saved)
         return false;
+    mHistory->stack()->setClean();
     if (!report.problems.isEmpty())
         tellUnreadable(report);
     return true;

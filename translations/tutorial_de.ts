@@ -142,162 +142,6 @@
         <translation>Schritte aus der Gruppe nehmen</translation>
     </message>
     <message>
-        <source>Pixels from the left edge of the followed window to the point that the step shows</source>
-        <translation>Pixel vom linken Rand des Fensters, dem gefolgt wird, bis zum Punkt, den der Schritt zeigt</translation>
-    </message>
-    <message>
-        <source>Pixels from the top edge of the followed window to the point that the step shows</source>
-        <translation>Pixel vom oberen Rand des Fensters, dem gefolgt wird, bis zum Punkt, den der Schritt zeigt</translation>
-    </message>
-    <message>
-        <source>The window of the editor that the indicator follows</source>
-        <translation>Das Fenster des Editors, dem der Pfeil folgt</translation>
-    </message>
-    <message>
-        <source>RefWindow</source>
-        <translation>Bezugsfenster</translation>
-    </message>
-    <message>
-        <source>Follows the window of the editor that was in front last</source>
-        <translation>Folgt dem Fenster des Editors, das zuletzt vorn war</translation>
-    </message>
-    <message>
-        <source>X:</source>
-        <translation>X:</translation>
-    </message>
-    <message>
-        <source>Y:</source>
-        <translation>Y:</translation>
-    </message>
-    <message>
-        <source>A note of the author&apos;s</source>
-        <translation>Eine Notiz für die Autoren</translation>
-    </message>
-    <message>
-        <source>The note, translated</source>
-        <translation>Die Notiz, übersetzt</translation>
-    </message>
-    <message>
-        <source>log comment:</source>
-        <translation>Notiz:</translation>
-    </message>
-    <message>
-        <source>What the balloon says; qsTr(&quot;…&quot;) around it makes it translatable</source>
-        <translation>Was die Sprechblase sagt; qsTr(&quot;…&quot;) darum macht es übersetzbar</translation>
-    </message>
-    <message>
-        <source>The hint as the learner sees it, translated by the editor</source>
-        <translation>Der Hinweis, wie ihn die Lernenden sehen, vom Editor übersetzt</translation>
-    </message>
-    <message>
-        <source>hint:</source>
-        <translation>Hinweis:</translation>
-    </message>
-    <message>
-        <source>What the learner has to do before the next step comes</source>
-        <translation>Was zu tun ist, bevor der nächste Schritt kommt</translation>
-    </message>
-    <message>
-        <source>The window that is waited for</source>
-        <translation>Das Fenster, auf das gewartet wird</translation>
-    </message>
-    <message>
-        <source>What has to happen to the window</source>
-        <translation>Was mit dem Fenster geschehen muss</translation>
-    </message>
-    <message>
-        <source>Where the mouse has to be used</source>
-        <translation>Wo die Maus zu benutzen ist</translation>
-    </message>
-    <message>
-        <source>What the mouse has to do</source>
-        <translation>Was die Maus zu tun hat</translation>
-    </message>
-    <message>
-        <source>How the value has to compare with the number beside</source>
-        <translation>Wie sich der Wert zur Zahl daneben verhalten muss</translation>
-    </message>
-    <message>
-        <source>The action that has to be chosen</source>
-        <translation>Die Aktion, die zu wählen ist</translation>
-    </message>
-    <message>
-        <source>condition:</source>
-        <translation>Bedingung:</translation>
-    </message>
-    <message>
-        <source>The picture beside the arrow</source>
-        <translation>Das Bild neben dem Pfeil</translation>
-    </message>
-    <message>
-        <source>What the editor does when the step begins; the empty row is nothing</source>
-        <translation>Was der Editor tut, wenn der Schritt beginnt; die leere Zeile heißt nichts</translation>
-    </message>
-    <message>
-        <source>What the command works on</source>
-        <translation>Worauf der Befehl wirkt</translation>
-    </message>
-    <message>
-        <source>icon:</source>
-        <translation>Symbol:</translation>
-    </message>
-    <message>
-        <source>command:</source>
-        <translation>Befehl:</translation>
-    </message>
-    <message>
-        <source>The name by which other steps go to this one</source>
-        <translation>Der Name, unter dem andere Schritte zu diesem springen</translation>
-    </message>
-    <message>
-        <source>Show arrow</source>
-        <translation>Pfeil zeigen</translation>
-    </message>
-    <message>
-        <source>Whether the arrow points at the step&apos;s point</source>
-        <translation>Ob der Pfeil auf den Punkt des Schritts zeigt</translation>
-    </message>
-    <message>
-        <source>label:</source>
-        <translation>Marke:</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Followed window</source>
-        <translation>Fenster</translation>
-    </message>
-    <message>
-        <source>Comment</source>
-        <translation>Notiz</translation>
-    </message>
-    <message>
-        <source>Hint</source>
-        <translation>Hinweis</translation>
-    </message>
-    <message>
-        <source>Condition</source>
-        <translation>Bedingung</translation>
-    </message>
-    <message>
-        <source>Icon</source>
-        <translation>Symbol</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Marke</translation>
-    </message>
-    <message>
-        <source>Command</source>
-        <translation>Befehl</translation>
-    </message>
-    <message>
-        <source>Hidden arrow</source>
-        <translation>Verborgener Pfeil</translation>
-    </message>
-    <message>
         <source>Copy error</source>
         <translation>Fehler beim Kopieren</translation>
     </message>
@@ -308,10 +152,6 @@
     <message>
         <source>Parse error</source>
         <translation>Fehler beim Lesen</translation>
-    </message>
-    <message>
-        <source>All fields are shown</source>
-        <translation>Alle Felder werden gezeigt</translation>
     </message>
     <message>
         <source>Save OK?</source>
@@ -381,6 +221,74 @@ Geändert: %2
     <message>
         <source>Steps that differ from those here: %1</source>
         <translation>Schritte, die sich von denen hier unterscheiden: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig:</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen:</translation>
+    </message>
+    <message>
+        <source>%1 of a Step</source>
+        <translation>%1 eines Schritts</translation>
+    </message>
+    <message>
+        <source>%1 of %2 Steps</source>
+        <translation>%1 von %2 Schritten</translation>
+    </message>
+    <message>
+        <source>New Step</source>
+        <translation>Neuer Schritt</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppieren</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Auflösen der Gruppe</translation>
+    </message>
+    <message>
+        <source>Added Field: %1</source>
+        <translation>Neues Feld: %1</translation>
+    </message>
+    <message>
+        <source>Change of Field: %1</source>
+        <translation>Änderung im Feld %1</translation>
+    </message>
+    <message>
+        <source>Picked Point</source>
+        <translation>Gewählter Punkt</translation>
+    </message>
+    <message>
+        <source>Recorded Condition</source>
+        <translation>Aufgezeichnete Bedingung</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Wiederherstellung</translation>
     </message>
 </context>
 <context>
@@ -1195,6 +1103,237 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
     <message>
         <source>Write a plain text</source>
         <translation>Schreiben Sie einen einfachen Text</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialEditor::StepForm</name>
+    <message>
+        <source>condition:</source>
+        <translation>Bedingung:</translation>
+    </message>
+    <message>
+        <source>What the learner has to do before the next step comes</source>
+        <translation>Was zu tun ist, bevor der nächste Schritt kommt</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>The window that is waited for</source>
+        <translation>Das Fenster, auf das gewartet wird</translation>
+    </message>
+    <message>
+        <source>Where the mouse has to be used</source>
+        <translation>Wo die Maus zu benutzen ist</translation>
+    </message>
+    <message>
+        <source>How the value has to compare with the number beside</source>
+        <translation>Wie sich der Wert zur Zahl daneben verhalten muss</translation>
+    </message>
+    <message>
+        <source>The action that has to be chosen</source>
+        <translation>Die Aktion, die zu wählen ist</translation>
+    </message>
+    <message>
+        <source>What has to happen to the window</source>
+        <translation>Was mit dem Fenster geschehen muss</translation>
+    </message>
+    <message>
+        <source>What the mouse has to do</source>
+        <translation>Was die Maus zu tun hat</translation>
+    </message>
+    <message>
+        <source>icon:</source>
+        <translation>Symbol:</translation>
+    </message>
+    <message>
+        <source>The picture beside the arrow</source>
+        <translation>Das Bild neben dem Pfeil</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>command:</source>
+        <translation>Befehl:</translation>
+    </message>
+    <message>
+        <source>What the editor does when the step begins; the empty row is nothing</source>
+        <translation>Was der Editor tut, wenn der Schritt beginnt; die leere Zeile heißt nichts</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>What the command works on</source>
+        <translation>Worauf der Befehl wirkt</translation>
+    </message>
+    <message>
+        <source>label:</source>
+        <translation>Marke:</translation>
+    </message>
+    <message>
+        <source>The name by which other steps go to this one</source>
+        <translation>Der Name, unter dem andere Schritte zu diesem springen</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Marke</translation>
+    </message>
+    <message>
+        <source>Show arrow</source>
+        <translation>Pfeil zeigen</translation>
+    </message>
+    <message>
+        <source>Whether the arrow points at the step&apos;s point</source>
+        <translation>Ob der Pfeil auf den Punkt des Schritts zeigt</translation>
+    </message>
+    <message>
+        <source>Hidden arrow</source>
+        <translation>Verborgener Pfeil</translation>
+    </message>
+    <message>
+        <source>X:</source>
+        <translation>X:</translation>
+    </message>
+    <message>
+        <source>Pixels from the left edge of the followed window to the point that the step shows</source>
+        <translation>Pixel vom linken Rand des Fensters, dem gefolgt wird, bis zum Punkt, den der Schritt zeigt</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Y:</source>
+        <translation>Y:</translation>
+    </message>
+    <message>
+        <source>Pixels from the top edge of the followed window to the point that the step shows</source>
+        <translation>Pixel vom oberen Rand des Fensters, dem gefolgt wird, bis zum Punkt, den der Schritt zeigt</translation>
+    </message>
+    <message>
+        <source>The window of the editor that the indicator follows</source>
+        <translation>Das Fenster des Editors, dem der Pfeil folgt</translation>
+    </message>
+    <message>
+        <source>Followed window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>RefWindow</source>
+        <translation>Bezugsfenster</translation>
+    </message>
+    <message>
+        <source>Follows the window of the editor that was in front last</source>
+        <translation>Folgt dem Fenster des Editors, das zuletzt vorn war</translation>
+    </message>
+    <message>
+        <source>target:</source>
+        <translation>Ziel:</translation>
+    </message>
+    <message>
+        <source>The name of what the step shows, such as find/closeButton or action:Find; where the editor finds it, the position counts for nothing</source>
+        <translation>Der Name dessen, was der Schritt zeigt, etwa find/closeButton oder action:Find; findet der Editor es, so zählt die Position nicht</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>log comment:</source>
+        <translation>Notiz:</translation>
+    </message>
+    <message>
+        <source>A note of the author&apos;s</source>
+        <translation>Eine Notiz für die Autoren</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>The note, translated</source>
+        <translation>Die Notiz, übersetzt</translation>
+    </message>
+    <message>
+        <source>hint:</source>
+        <translation>Hinweis:</translation>
+    </message>
+    <message>
+        <source>What the balloon says; qsTr(&quot;…&quot;) around it makes it translatable</source>
+        <translation>Was die Sprechblase sagt; qsTr(&quot;…&quot;) darum macht es übersetzbar</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>The hint as the learner sees it, translated by the editor</source>
+        <translation>Der Hinweis, wie ihn die Lernenden sehen, vom Editor übersetzt</translation>
+    </message>
+    <message>
+        <source>All fields are shown</source>
+        <translation>Alle Felder werden gezeigt</translation>
+    </message>
+    <message>
+        <source>How long the step is shown, in seconds</source>
+        <translation>Wie lange der Schritt gezeigt wird, in Sekunden</translation>
+    </message>
+    <message>
+        <source>The number of characters</source>
+        <translation>Die Zahl der Zeichen</translation>
+    </message>
+    <message>
+        <source>The list whose menu has to open; * is any</source>
+        <translation>Die Liste, deren Menü sich öffnen muss; * ist jede</translation>
+    </message>
+    <message>
+        <source>The row that has to be chosen, counted from 0</source>
+        <translation>Die Zeile, die gewählt werden muss, von 0 an gezählt</translation>
+    </message>
+    <message>
+        <source>Nothing: Next is what has to be pressed</source>
+        <translation>Nichts: Gedrückt werden muss „Weiter“</translation>
+    </message>
+    <message>
+        <source>The page of the button, counted from 0</source>
+        <translation>Die Seite der Schaltfläche, von 0 an gezählt</translation>
+    </message>
+    <message>
+        <source>The button that has to be pressed, counted from 0</source>
+        <translation>Die Schaltfläche, die gedrückt werden muss, von 0 an gezählt</translation>
+    </message>
+    <message>
+        <source>The name of the combo box</source>
+        <translation>Der Name des Auswahlfeldes</translation>
+    </message>
+    <message>
+        <source>The row that it has to show, counted from 0</source>
+        <translation>Die Zeile, die es zeigen muss, von 0 an gezählt</translation>
+    </message>
+    <message>
+        <source>The name of the check box</source>
+        <translation>Der Name des Kontrollkästchens</translation>
+    </message>
+    <message>
+        <source>1 when it has to be checked, 0 when not</source>
+        <translation>1, wenn es angekreuzt sein muss, 0, wenn nicht</translation>
+    </message>
+    <message>
+        <source>The value</source>
+        <translation>Der Wert</translation>
+    </message>
+    <message>
+        <source>The label of the step after Yes; empty for the next step</source>
+        <translation>Die Marke des Schritts nach „Ja“; leer für den nächsten Schritt</translation>
+    </message>
+    <message>
+        <source>The label of the step after No; empty for the next step</source>
+        <translation>Die Marke des Schritts nach „Nein“; leer für den nächsten Schritt</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <functional>
 
 using namespace TutorialEditor;
 
@@ -188,29 +189,32 @@ void Model::insertJsonRow(QStandardItem* parent, int row, int depth, const QJson
         insertJsonRow(group.first, 0, depth + 1, group.second, errors, notify);
 }
 
-void Model::removeModelIndexList(const QList<QModelIndex>& indexes)
+QVector<RowRun> Model::topRuns(const QList<QModelIndex>& indexes) const
 {
     if (getMinimumDepth(indexes) < 0)
-        return;
-    // Runs of rows, so that each is removed at once.
-    struct Run {
-        QStandardItem* level;
-        int first;
-        int last;
-    };
-    QVector<Run> runs;
+        return {};
+    QVector<RowRun> rows;
     for (const QModelIndex& index : getTopIndexes(indexes))
-        runs.append({levelOf(itemFromIndex(index)), index.row(), index.row()});
-    std::sort(runs.begin(), runs.end(), [](const Run& a, const Run& b) {
+        rows.append({levelOf(itemFromIndex(index)), index.row(), index.row()});
+    std::sort(rows.begin(), rows.end(), [](const RowRun& a, const RowRun& b) {
         return a.level != b.level ? std::less<>()(a.level, b.level) : a.first < b.first;
     });
-    while (!runs.isEmpty()) {
-        Run run = runs.takeLast();
-        while (
-            !runs.isEmpty() && runs.last().level == run.level && runs.last().last + 1 == run.first)
-            run.first = runs.takeLast().first;
-        run.level->removeRows(run.first, run.last - run.first + 1);
+    QVector<RowRun> runs;
+    for (const RowRun& row : qAsConst(rows)) {
+        if (!runs.isEmpty() && runs.last().level == row.level && runs.last().last + 1 == row.first)
+            ++runs.last().last;
+        else
+            runs.append(row);
     }
+    return runs;
+}
+
+void Model::removeModelIndexList(const QList<QModelIndex>& indexes)
+{
+    // The last ones first, since that moves no other row of their level.
+    const QVector<RowRun> runs = topRuns(indexes);
+    for (auto run = runs.rbegin(); run != runs.rend(); ++run)
+        run->level->removeRows(run->first, run->last - run->first + 1);
 }
 
 TutorialItem* Model::createItem(const QJsonObject& step, int depth) const

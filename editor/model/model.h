@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/model/selectionrules.h"
 #include "tutorial/vocabulary/vocabulary.h"
 
+#include <QList>
 #include <QStandardItemModel>
 #include <QVariant>
 
@@ -43,6 +45,9 @@ public:
     // The indexes at the smallest level, in their order; end markers when there
     // is nothing else.
     QList<QModelIndex> getTopIndexes(const QList<QModelIndex>& indexes) const;
+    // The same as runs of rows, in their order, so that each can be removed at
+    // once; none when there are none but end markers.
+    QVector<RowRun> topRuns(const QList<QModelIndex>& indexes) const;
     // The items' texts for a debug line.
     QString getModelIndexListStr(const QList<QModelIndex>& indexes) const;
 
@@ -64,6 +69,26 @@ public:
     // below them.
     void removeModelIndexList(const QList<QModelIndex>& indexes);
 
+    // Takes rows with what is below them out of a level. They are the caller's then.
+    QList<QStandardItem*> takeRows(QStandardItem* level, int first, int count);
+    // Puts items of no model, with what is below them, into a level.
+    void insertItems(QStandardItem* level, int row, const QList<QStandardItem*>& items);
+    // Puts other items in place of all of the tree, whose items are the caller's then.
+    QList<QStandardItem*> exchangeRows(const QList<QStandardItem*>& rows);
+    // Gives an item the text and the icon that follow from its step and translation.
+    void updateRow(TutorialItem* item);
+
+    // A group without steps that is not yet in the tree.
+    static TutorialItem* createGroup(const QString& name, int depth);
+    // The first of the siblings and those that follow it without a gap; a level of
+    // null when there are none that can be grouped.
+    RowRun runToGroup(const QList<QModelIndex>& siblings) const;
+    // Moves rows into a group, which takes their place.
+    void wrapRows(QStandardItem* level, int row, int count, TutorialItem* group);
+    // Moves a group's steps out to where it stands. The group is the caller's then.
+    // Returns how many steps that are.
+    int unwrapGroup(QStandardItem* group);
+
     // Moves rows into a new group that takes the first one's place, and selects
     // the group. indexes: siblings that follow one another, the first one first.
     void grouping(TreeView* view, const QString& name, const QList<QModelIndex>& indexes);
@@ -72,8 +97,6 @@ public:
     void ungrouping(TreeView* view, QStandardItem* group);
 
 private:
-    void insertItems(QStandardItem* level, int row, const QList<QStandardItem*>& items);
-
     QVariant mIcons[Tutorial::IconKindCount];
 };
 

@@ -4,34 +4,9 @@
 #include "editor/model/tutorialitem.h"
 #include "editor/scenario/debuglog.h"
 
-#include <algorithm>
-
 using namespace TutorialEditor;
 
-namespace {
-
-// End markers keep the depth that marks them.
-void changeDepth(QStandardItem* item, int difference)
-{
-    TutorialItem* step = TutorialItem::from(item);
-    if (!step || step->isEndMarker())
-        return;
-    step->setDepth(step->depth() + difference);
-    for (int row = 0; row < item->rowCount(); ++row)
-        changeDepth(item->child(row), difference);
-}
-
-// Takes rows out of a level, the last one first, since that moves no other row.
-QList<QStandardItem*> takeRows(QStandardItem* level, int first, int count)
-{
-    QList<QStandardItem*> items;
-    for (int row = first + count - 1; row >= first; --row)
-        items << level->takeRow(row).first();
-    std::reverse(items.begin(), items.end());
-    return items;
-}
-
-TutorialItem* createGroup(const QString& name, int depth)
+TutorialItem* Model::createGroup(const QString& name, int depth)
 {
     auto* group = new TutorialItem(name);
     group->setGroup(true);
@@ -42,35 +17,33 @@ TutorialItem* createGroup(const QString& name, int depth)
     return group;
 }
 
-} // namespace
-
-void Model::grouping(TreeView* view, const QString& name, const QList<QModelIndex>& indexes)
+RowRun Model::runToGroup(const QList<QModelIndex>& siblings) const
 {
-    const TutorialItem* first = indexes.isEmpty() ? nullptr : itemAt(indexes.first());
+    const TutorialItem* first = siblings.isEmpty() ? nullptr : itemAt(siblings.first());
     if (!first || first->isEndMarker())
-        return;
+        return {nullptr, 0, -1};
     QStandardItem* level = levelOf(first);
     const int row = first->row();
     int count = 1;
-    while (count < indexes.size() && indexes.at(count) == index(row + count, 0, level->index())
-        && !itemAt(indexes.at(count))->isEndMarker())
+    while (count < siblings.size() && siblings.at(count) == index(row + count, 0, level->index())
+        && !itemAt(siblings.at(count))->isEndMarker())
         ++count;
+    return {level, row, row + count - 1};
+}
 
+void Model::grouping(TreeView* view, const QString& name, const QList<QModelIndex>& indexes)
+{
+    const RowRun run = runToGroup(indexes);
+    if (!run.level)
+        return;
     // A selected row that is taken out would be selected again at once, because
     // its group is.
     view->selectionModel()->clear();
-    EDITOR_DEBUG << "before insert: " << row;
-    TutorialItem* group = createGroup(name, levelDepth(level));
-    QList<QStandardItem*> steps = takeRows(level, row, count);
-    for (QStandardItem* step : qAsConst(steps)) {
-        changeDepth(step, 1);
-        group->appendRow(step);
-    }
-    group->appendRow(createEndMarker());
-    level->insertRow(row, group);
-    EDITOR_DEBUG << "after insert: " << first->row();
-
-    view->selectRows(level, row, row);
+    EDITOR_DEBUG << "before insert: " << run.first;
+    TutorialItem* group = createGroup(name, levelDepth(run.level));
+    wrapRows(run.level, run.first, run.last - run.first + 1, group);
+    EDITOR_DEBUG << "after insert: " << group->row();
+    view->selectRows(run.level, run.first, run.first);
     view->setExpanded(group->index(), true);
 }
 
@@ -79,28 +52,10 @@ void Model::ungrouping(TreeView* view, QStandardItem* group)
     if (!group || group == invisibleRootItem())
         return;
     view->selectionModel()->clear();
+    const QScopedPointer<QStandardItem> taken(group);
     QStandardItem* level = levelOf(group);
     const int row = group->row();
-    const QScopedPointer<QStandardItem> taken(level->takeRow(row).first());
-    const QList<QStandardItem*> steps = takeRows(group, 0, group->rowCount() - 1);
-    for (QStandardItem* step : steps) {
-        EDITOR_DEBUG << step->text();
-        changeDepth(step, -1);
-    }
-    insertItems(level, row, steps);
-    if (!steps.isEmpty())
-        view->selectRows(level, row, row + steps.size() - 1);
-}
-
-void Model::insertItems(QStandardItem* level, int row, const QList<QStandardItem*>& items)
-{
-    // A block of rows is inserted without what is below them.
-    QVector<QList<QStandardItem*>> contents;
-    for (QStandardItem* item : items)
-        contents << takeRows(item, 0, item->rowCount());
-    level->insertRows(row, items);
-    for (int i = 0; i < items.size(); ++i) {
-        if (!contents.at(i).isEmpty())
-            insertItems(items.at(i), 0, contents.at(i));
-    }
+    const int count = unwrapGroup(group);
+    if (count > 0)
+        view->selectRows(level, row, row + count - 1);
 }

@@ -87,11 +87,42 @@ QList<QModelIndex> TreeView::getSelectedIndexes() const
 
 void TreeView::selectRows(QStandardItem* level, int first, int last)
 {
-    const QModelIndex parent = level->index();
-    const QModelIndex top = model()->index(first, 0, parent);
-    selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
-    selectionModel()->select(
-        QItemSelection(top, model()->index(last, 0, parent)), QItemSelectionModel::ClearAndSelect);
+    selectRuns({{level, first, last}});
+}
+
+void TreeView::selectRuns(const QVector<RowRun>& runs)
+{
+    QItemSelection selection;
+    for (const RowRun& run : runs) {
+        const QModelIndex parent = run.level->index();
+        const QModelIndex top = model()->index(run.first, 0, parent);
+        if (selection.isEmpty())
+            selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
+        selection.append(QItemSelectionRange(top, model()->index(run.last, 0, parent)));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+QVector<QStandardItem*> TreeView::expandedGroups(const QList<QStandardItem*>& items) const
+{
+    QVector<QStandardItem*> groups;
+    for (QStandardItem* item : items) {
+        if (item->rowCount() == 0)
+            continue;
+        if (isExpanded(item->index()))
+            groups << item;
+        QList<QStandardItem*> contents;
+        for (int row = 0; row < item->rowCount(); ++row)
+            contents << item->child(row);
+        groups << expandedGroups(contents);
+    }
+    return groups;
+}
+
+void TreeView::expandGroups(const QVector<QStandardItem*>& groups)
+{
+    for (const QStandardItem* group : groups)
+        setExpanded(group->index(), true);
 }
 
 void TreeView::keyPressEvent(QKeyEvent* event)

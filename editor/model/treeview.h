@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/model/selectionrules.h"
+
 #include <QTreeView>
 
 class QStandardItem;
@@ -24,6 +26,11 @@ public:
     QList<QModelIndex> getSelectedIndexes() const;
     // Selects these rows of a level and nothing else.
     void selectRows(QStandardItem* level, int first, int last);
+    // The same for several runs of rows.
+    void selectRuns(const QVector<RowRun>& runs);
+    // Those of the items, and of what is below them, that are open groups.
+    QVector<QStandardItem*> expandedGroups(const QList<QStandardItem*>& items) const;
+    void expandGroups(const QVector<QStandardItem*>& groups);
 
 signals:
     void startTriggered();

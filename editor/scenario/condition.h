@@ -32,7 +32,7 @@ struct ConditionParameter {
     ParameterView view = ParameterView::None;
     // What the field gets when the kind is chosen; null leaves it as it is.
     const char* byDefault = nullptr;
-    // For the author, to be translated in the dialog's context; null for a box.
+    // For the author, to be translated in the form's context; null for a box.
     const char* meaning = nullptr;
 };
 

@@ -11,6 +11,7 @@ namespace {
 const QString kX = QStringLiteral("x");
 const QString kY = QStringLiteral("y");
 const QString kFollowWindow = QStringLiteral("followWindow");
+const QString kTarget = QStringLiteral("target");
 const QString kComment = QStringLiteral("comment");
 const QString kHint = QStringLiteral("hint");
 const QString kCondition = QStringLiteral("condition");
@@ -32,6 +33,7 @@ public:
             return mFields;
         mFields.x = shownNumber(kX, XField);
         mFields.y = shownNumber(kY, YField);
+        mFields.target = shownText(kTarget, TargetField);
         mFields.comment = shownText(kComment, CommentField);
         loadFollowWindow();
         loadCondition();
@@ -219,6 +221,7 @@ RebuiltStep TutorialEditor::rebuildStep(const QJsonObject& step, bool isGroup,
     QJsonObject rebuilt = step;
     if (!isGroup) {
         setPosition(&rebuilt, before, now);
+        setChangedText(&rebuilt, kTarget, before.target, now.target);
         setChangedText(&rebuilt, kComment, before.comment, now.comment);
         setCondition(&rebuilt, before, now);
         setCommand(&rebuilt, before, now);

@@ -23,7 +23,8 @@ enum StepField {
     CommandField = 0x400,
     CommandParameterField = 0x800,
     LabelField = 0x1000,
-    ShowArrowField = 0x2000
+    ShowArrowField = 0x2000,
+    TargetField = 0x4000
 };
 Q_DECLARE_FLAGS(ShownFields, StepField)
 Q_DECLARE_OPERATORS_FOR_FLAGS(ShownFields)
@@ -41,6 +42,7 @@ struct StepFields {
     QString x;
     QString y;
     QString followWindow;
+    QString target;
     QString comment;
     QString hint;
     QString condition; // the kind's name

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kDeadlineMs = 20000;
 constexpr int kHiddenWithinMs = 500;
-const QString kAuthoringTool = QStringLiteral("^garden$");
+const QString kAuthoringTool = QStringLiteral("^garden");
 
 // A host that has a scenario edited and shows one of its steps, until it is
 // killed. Prints the tutorial's process id.

@@ -112,8 +112,8 @@ void tst_WritingOnScreen::initTestCase()
     mDemo.setStandardErrorFile(QProcess::nullDevice());
     mDemo.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial-demo"),
         {QStringLiteral("--edit"), mPath, QStringLiteral("--language"), QStringLiteral("en")});
-    QVERIFY(waitForWindow(QStringLiteral("^garden$")));
-    mEditor = windowTitled(QStringLiteral("^garden$"));
+    QVERIFY(waitForWindow(QStringLiteral("^garden")));
+    mEditor = windowTitled(QStringLiteral("^garden"));
     mHost = windowTitled(QStringLiteral("Map Workshop$"));
     xdotool({QStringLiteral("windowmove"), mHost, QStringLiteral("10"), QStringLiteral("30")});
     xdotool({QStringLiteral("windowsize"), mEditor, QString::number(kEditorSize.width()),
@@ -133,7 +133,7 @@ void tst_WritingOnScreen::cleanupTestCase()
     press(QStringLiteral("alt+F4"));
     QVERIFY(mDemo.waitForFinished(kDeadlineMs));
     // The tutorial has gone with its host, and the authoring tool with it.
-    QVERIFY(waitForWindow(QStringLiteral("^garden$"), false));
+    QVERIFY(waitForWindow(QStringLiteral("^garden"), false));
 }
 
 void tst_WritingOnScreen::selectInTree(const QString& keys)
@@ -257,12 +257,12 @@ void tst_WritingOnScreen::escapeAsksBeforeClosing()
     QVERIFY(waitForWindow(QStringLiteral("^Save$")));
     press(QStringLiteral("Escape"));
     QVERIFY(waitForWindow(QStringLiteral("^Save$"), false));
-    QVERIFY(waitForWindow(QStringLiteral("^garden$")));
+    QVERIFY(waitForWindow(QStringLiteral("^garden")));
 
     press(QStringLiteral("Escape"));
     QVERIFY(waitForWindow(QStringLiteral("^Save$")));
     press(QStringLiteral("alt+n"));
-    QVERIFY(waitForWindow(QStringLiteral("^garden$"), false));
+    QVERIFY(waitForWindow(QStringLiteral("^garden"), false));
     file.seek(0);
     QCOMPARE(file.readAll(), saved);
 }

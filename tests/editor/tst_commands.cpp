@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "openscenario.h"
 
+#include "editor/history/stephistory.h"
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/translationescape.h"
 
@@ -105,9 +106,23 @@ void tst_Commands::commands()
     QGuiApplication::clipboard()->setText("[]"_s);
     OpenScenario scenario(scenarioText(before));
     scenario.select(rowsIn(first), rowsIn(last));
+    const QString rows = scenario.rows();
+    const QString selected = scenario.selectedRows();
     pressKeys(scenario, keys);
     QTEST(scenario.rows(), "after");
     QTEST(scenario.selectedRows(), "selected");
+
+    QUndoStack* stack = scenario.dialog()->history()->stack();
+    const bool isChanged = stack->canUndo();
+    while (stack->canUndo())
+        stack->undo();
+    QCOMPARE(scenario.rows(), rows);
+    if (isChanged)
+        QCOMPARE(scenario.selectedRows(), selected);
+    QVERIFY(scenario.dialog()->isSaved());
+    while (stack->canRedo())
+        stack->redo();
+    QTEST(scenario.rows(), "after");
 }
 
 // The form went on to edit the step that had been selected before.
@@ -174,16 +189,64 @@ public:
     QString step()
     {
         const int size = itemCount(mScenario.model()->invisibleRootItem());
-        const int choice = mRandom.bounded(12);
+        const int choice = mRandom.bounded(14);
+        if (choice >= 12)
+            return backAndForth(1 + mRandom.bounded(3));
         if (choice >= 9)
             return select();
         if (choice >= 7)
-            return mRandom.bounded(20) == 0 ? saveAndLoad() : edit();
+            return mRandom.bounded(20) == 0 ? saveOrReload() : edit();
         QString keys = "nnccvbi"_s;
         if (size > 20)
             keys = size > 60 ? "ndxxcbi"_s : "ndxvvbi"_s;
         pressKeys(mScenario, keys.mid(choice, 1));
         return keys.mid(choice, 1);
+    }
+
+    // Undoes and redoes so many acts, in a random order.
+    QString backAndForth(int count)
+    {
+        QString done;
+        for (int i = 0; i < count; ++i) {
+            const bool isUndo = mRandom.bounded(5) < 3;
+            isUndo ? stack()->undo() : stack()->redo();
+            done += isUndo ? QLatin1Char('z') : QLatin1Char('y');
+        }
+        return done;
+    }
+
+    // What is wrong with going back to the first state and on to the last one.
+    QString historyFault()
+    {
+        const QJsonArray last = mScenario.dialog()->getCurrentSteps();
+        const QString lastJson = mScenario.dialog()->getCurrentJson();
+        const int index = stack()->index();
+        while (stack()->canUndo())
+            stack()->undo();
+        if (mScenario.dialog()->getCurrentSteps() != mFirst
+            || mScenario.dialog()->getCurrentJson() != mFirstJson)
+            return "undone to another state: "_s
+                + difference(mFirstJson, mScenario.dialog()->getCurrentJson());
+        while (stack()->index() < index)
+            stack()->redo();
+        if (mScenario.dialog()->getCurrentSteps() != last
+            || mScenario.dialog()->getCurrentJson() != lastJson)
+            return "redone to another state: "_s
+                + difference(lastJson, mScenario.dialog()->getCurrentJson());
+        return fault();
+    }
+
+    // Saves and opens what there is now, which is the first state of a new history.
+    void begin()
+    {
+        mFirstJson = mScenario.dialog()->getCurrentJson();
+        Manager::save(mFirstJson);
+        Manager::setContents(mScenario.path());
+        mScenario.tree()->expandAll();
+        if (mScenario.dialog()->getCurrentJson() != mFirstJson)
+            qFatal("lost on the way through the file");
+        // Without the keys of groups that a file does not have.
+        mFirst = mScenario.dialog()->getCurrentSteps();
     }
 
     // What is wrong; empty when all is well.
@@ -234,9 +297,16 @@ private:
         const QString text = QString::fromUtf8(kTexts[mRandom.bounded(12)]);
         auto* comment = mScenario.widget<QTextEdit>("comment");
         auto* condition = mScenario.widget<QComboBox>("condition");
-        const int field = mRandom.bounded(5);
+        const int field = mRandom.bounded(8);
         if (field == 0)
             Manager::setCoordinates(mRandom.bounded(-100, 2000), mRandom.bounded(2000));
+        else if (field == 5)
+            Manager::setCondition({"wait"_s, QString::number(mRandom.bounded(9))});
+        else if (field == 6)
+            Manager::untrCallback(
+                "hint%1"_s.arg(mRandom.bounded(3)), QString::number(mRandom.bounded(9)));
+        else if (field == 7)
+            Manager::focusActionIndexList({mRandom.bounded(4), mRandom.bounded(3)});
         else if (field == 1 && !condition->isHidden())
             condition->setCurrentIndex(mRandom.bounded(condition->count()));
         else if (field == 2 && !comment->isHidden())
@@ -246,15 +316,24 @@ private:
         return "edit "_s + text;
     }
 
-    QString saveAndLoad()
+    QString saveOrReload()
     {
-        const QString json = mScenario.dialog()->getCurrentJson();
-        Manager::save(json);
-        Manager::setContents(mScenario.path());
-        mScenario.tree()->expandAll();
-        if (mScenario.dialog()->getCurrentJson() != json)
-            qFatal("lost on the way through the file");
-        return "save and load"_s;
+        if (mRandom.bounded(3) == 0) {
+            mScenario.dialog()->reload();
+            return "reload"_s;
+        }
+        Manager::save(mScenario.dialog()->getCurrentJson());
+        return "save"_s;
+    }
+
+    QUndoStack* stack() const { return mScenario.dialog()->history()->stack(); }
+
+    static QString difference(const QString& expected, const QString& actual)
+    {
+        int i = 0;
+        while (i < expected.size() && i < actual.size() && expected.at(i) == actual.at(i))
+            ++i;
+        return "%1, but %2"_s.arg(expected.mid(i - 60, 200), actual.mid(i - 60, 200));
     }
 
     static int itemCount(const QStandardItem* level)
@@ -295,25 +374,31 @@ private:
 
     OpenScenario& mScenario;
     QRandomGenerator mRandom;
+    QJsonArray mFirst;
+    QString mFirstJson;
 };
 
 } // namespace
 
-// TUTORIAL_WALK: how many commands (20000); TUTORIAL_SEED: in which order.
+// TUTORIAL_WALK: how many commands (5000); TUTORIAL_SEED: in which order. They
+// come as walks of a hundred, each with a history of its own.
 void tst_Commands::randomWalk()
 {
     const int count = qEnvironmentVariableIsSet("TUTORIAL_WALK")
         ? qEnvironmentVariableIntValue("TUTORIAL_WALK")
-        : 20000;
+        : 5000;
     const auto seed = quint32(qEnvironmentVariableIntValue("TUTORIAL_SEED"));
+    constexpr int kWalk = 100;
     QGuiApplication::clipboard()->setText("[]"_s);
     OpenScenario scenario(scenarioText("a [b c [d e ] ] f g h"_s));
     scenario.dialog()->resize(600, 900);
     Walk walk(&scenario, seed);
     QStringList last;
     for (int i = 0; i < count; ++i) {
-        last << walk.step();
-        const QString fault = walk.fault();
+        if (i % kWalk == 0)
+            walk.begin();
+        last << (i % 50 == 49 ? walk.backAndForth(20) : walk.step());
+        const QString fault = i % kWalk == kWalk - 1 ? walk.historyFault() : walk.fault();
         QVERIFY2(fault.isEmpty(),
             qPrintable("%1 after %2 commands, seed %3: %4\n%5"_s.arg(fault).arg(i).arg(seed).arg(
                 last.join("; "_s), scenario.rows())));
