@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/scenario/condition.h"
 #include "editor/scenario/stepcheck.h"
+#include "editor/scenario/targetpath.h"
 #include "editor/scenario/translationexpression.h"
 #include "tutorial/vocabulary/tutorialaction.h"
 #include "tutorial/vocabulary/vocabulary.h"
@@ -289,34 +290,54 @@ void checkCommand(const QString& text, StepProblems* problems)
     }
 }
 
+// Whether the host has what the target names, as far as its lists tell. A path
+// may leave out names between its first and its last, and the rows of a list
+// come and go.
+bool isTargetOf(const HostNames& host, const TargetPath& target)
+{
+    if (!target.action.isEmpty() && host.contains(HostNames::Actions, target.action))
+        return true;
+    if (!host.isGiven(HostNames::Targets))
+        return target.action.isEmpty() || !host.isGiven(HostNames::Actions);
+    bool isOpen = false;
+    const QStringList names = host.names(HostNames::Targets);
+    for (const QString& name : names) {
+        const TargetPath known = TargetPath::fromText(name);
+        if (!known.fault.isEmpty() || known.action != target.action)
+            continue;
+        if (!target.action.isEmpty())
+            return true;
+        const QString& first = target.segments.first().name;
+        const bool isInWindow = known.segments.first().name == first;
+        isOpen = isOpen || isInWindow;
+        if (known.segments.last().name == target.segments.last().name
+            && (isInWindow || target.segments.size() == 1))
+            return true;
+    }
+    // Of a window without any targets nothing is known.
+    return target.action.isEmpty() && !isOpen
+        && host.contains(HostNames::Windows, target.segments.first().name);
+}
+
 void checkTarget(const QString& text, StepProblems* problems)
 {
-    // A path of names, each with a part in brackets or without, and a place; or
-    // an action.
-    static const QRegularExpression kForm(QStringLiteral(
-        "^(action:[^/@]+|[^/@\\[\\]]+(\\[[^\\]]+\\])?(/[^/@\\[\\]]+(\\[[^\\]]+\\])?)*)"
-        "(@-?[0-9]*\\.?[0-9]+,-?[0-9]*\\.?[0-9]+)?$"));
-    const auto form = kForm.match(text);
-    if (!form.hasMatch()) {
+    const HostNames& host = problems->options().names;
+    // It may be in the words of the host alone.
+    if (host.contains(HostNames::Targets, text))
+        return;
+    const TargetPath target = TargetPath::fromText(text);
+    if (!target.fault.isEmpty()) {
         problems->add(Rule::MalformedTarget, kTarget, Problem::tr("“%1” is no target").arg(text),
             Problem::tr("Write window/widget, window/widget[row], or action:NAME"));
         return;
     }
-    const HostNames& host = problems->options().names;
-    static const QRegularExpression kPart(QStringLiteral("\\[[^\\]]*\\]$"));
-    const QString target = form.captured(1);
-    QString widget = target;
-    widget.remove(kPart);
-    const QString action = target.startsWith(QLatin1String("action:")) ? target.mid(7) : QString();
-    const HostNames::List list = action.isEmpty() || host.isGiven(HostNames::Targets)
-        ? HostNames::Targets
-        : HostNames::Actions;
-    if (!host.isGiven(list) || host.contains(list, text) || host.contains(list, target)
-        || host.contains(list, widget) || host.contains(HostNames::Actions, action))
+    if (isTargetOf(host, target))
         return;
+    const bool isNamedAction = !target.action.isEmpty() && !host.isGiven(HostNames::Targets);
     problems->add(Rule::UnknownTarget, kTarget,
         Problem::tr("The host has no target “%1”").arg(text),
-        suggestion(list == HostNames::Actions ? action : target, host.names(list)));
+        isNamedAction ? suggestion(target.action, host.names(HostNames::Actions))
+                      : suggestion(text, host.names(HostNames::Targets)));
 }
 
 } // namespace

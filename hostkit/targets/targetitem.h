@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/targets/targetpath.h"
+#include "editor/scenario/targetpath.h"
 
 #include <QModelIndex>
 #include <QRect>
@@ -14,6 +14,8 @@ class QAction;
 class QTabWidget;
 
 namespace TutorialHost {
+
+using TutorialEditor::TargetPath;
 
 // A part of a widget that is no widget: a tab, a row, an entry.
 struct TargetItem {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/scenario/targetpath.h"
 #include "hostkit/targets/target.h"
-#include "hostkit/targets/targetpath.h"
 
 #include <QAction>
 #include <QHash>
@@ -14,6 +14,8 @@
 #include <optional>
 
 namespace TutorialHost {
+
+using TutorialEditor::TargetPath;
 
 // The windows that the host has names of its own for.
 struct TargetWindows {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "hostkit/targets/targetpath.h"
+#include "editor/scenario/checker.h"
 #include "hostkit/targets/targetresolver.h"
 
 #include <QtTest>
@@ -189,6 +189,15 @@ void tst_Targets::takesPathsApart()
     const TargetPath path = TargetPath::fromText(text);
     QCOMPARE(shown(path), parts);
     QCOMPARE(path.fault.isEmpty(), !parts.isEmpty());
+    // What the checker refuses is what nothing is looked for. It takes no target
+    // for none at all.
+    const auto problems = TutorialEditor::Checker::checkSteps(
+        {QJsonObject{{QStringLiteral("condition"), QStringLiteral("click,")},
+            {QStringLiteral("hint"), QStringLiteral("qsTr(\"Go on.\")")},
+            {QStringLiteral("target"), text}}});
+    const bool isRefused = std::any_of(problems.begin(), problems.end(),
+        [](const auto& problem) { return problem.rule == TutorialEditor::Rule::MalformedTarget; });
+    QCOMPARE(isRefused, parts.isEmpty() && !text.isEmpty());
     if (path.fault.isEmpty())
         QCOMPARE(shown(TargetPath::fromText(path.toText())), parts);
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "hostkit/targets/targetpath.h"
+#include "editor/scenario/targetpath.h"
 
 #include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
 
-using namespace TutorialHost;
+using namespace TutorialEditor;
 
 namespace {
 
@@ -15,7 +15,7 @@ const QLatin1String kSpecial("/[]@");
 
 // Reads from left to right, and remembers the first fault.
 class Reader {
-    Q_DECLARE_TR_FUNCTIONS(TutorialHost::TargetPath)
+    Q_DECLARE_TR_FUNCTIONS(TutorialEditor::TargetPath)
 
 public:
     explicit Reader(const QString& text) : mText(text) { }

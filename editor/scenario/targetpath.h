@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace TutorialHost {
+namespace TutorialEditor {
 
 // A step's "target", taken apart: which widget or action it names, and which
 // place there. Nothing is looked for yet.
@@ -49,4 +49,4 @@ struct TargetPath {
     QString fault;
 };
 
-} // namespace TutorialHost
+} // namespace TutorialEditor
