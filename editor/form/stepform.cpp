@@ -165,7 +165,8 @@ StepForm::StepForm(const QVector<QIcon>& icons)
     builder.find(&mShowArrow, "showArrow");
 
     mIcon->setIconSize(kIconSize);
-    for (int kind = 0; kind < std::min(icons.size(), mIcon->count()); ++kind)
+    const int count = std::min(static_cast<int>(icons.size()), mIcon->count());
+    for (int kind = 0; kind < count; ++kind)
         mIcon->setItemIcon(kind, icons.at(kind));
     for (QWidget* widget : findChildren<QWidget*>()) {
         QSizePolicy policy = widget->sizePolicy();

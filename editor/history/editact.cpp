@@ -4,6 +4,8 @@
 #include "editor/model/model.h"
 #include "editor/model/tutorialitem.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 using namespace TutorialEditor;
@@ -16,11 +18,18 @@ QJsonValue detached(const QJsonValue& value)
     return value.isString() ? QJsonValue(QString(value.toString())) : value;
 }
 
+// The one copy of a text that every act has: a key, or a name.
+QString shared(const QString& text)
+{
+    static QSet<QString> texts;
+    return *texts.insert(text);
+}
+
 } // namespace
 
 StepHistory::EditAct::EditAct(StepHistory* history, TutorialItem* item, const QJsonObject& step,
     StepField field, int run, const QString& name)
-    : Act(history, name), mItem(item), mField(field), mRun(run)
+    : Act(history, shared(name)), mItem(item), mField(field), mRun(run)
 {
     mSince.start();
     const QJsonObject& former = item->step();
@@ -31,7 +40,7 @@ StepHistory::EditAct::EditAct(StepHistory* history, TutorialItem* item, const QJ
     }
     for (const QString& key : qAsConst(keys)) {
         if (former.value(key) != step.value(key))
-            mChanges.append({key, detached(former.value(key)), detached(step.value(key))});
+            mChanges.append({shared(key), detached(former.value(key)), detached(step.value(key))});
     }
     item->setStep(step);
 }
