@@ -1337,6 +1337,37 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
     </message>
 </context>
 <context>
+    <name>TutorialEditor::TargetPath</name>
+    <message>
+        <source>something stands behind its end</source>
+        <translation>hinter seinem Ende steht noch etwas</translation>
+    </message>
+    <message>
+        <source>nothing follows the last “\”</source>
+        <translation>auf das letzte „\“ folgt nichts</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>ein Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>a name is missing</source>
+        <translation>ein Name fehlt</translation>
+    </message>
+    <message>
+        <source>a “[” has no “]”</source>
+        <translation>zu einer „[“ fehlt die „]“</translation>
+    </message>
+    <message>
+        <source>nothing stands between “[” and “]”</source>
+        <translation>zwischen „[“ und „]“ steht nichts</translation>
+    </message>
+    <message>
+        <source>behind “@” stand two numbers from 0 to 1, with a comma between them</source>
+        <translation>hinter „@“ stehen zwei Zahlen von 0 bis 1, durch ein Komma getrennt</translation>
+    </message>
+</context>
+<context>
     <name>TutorialLog</name>
     <message>
         <source>Tutorial</source>

@@ -720,31 +720,31 @@
     <name>TutorialHost::TargetPath</name>
     <message>
         <source>something stands behind its end</source>
-        <translation>hinter seinem Ende steht noch etwas</translation>
+        <translation type="vanished">hinter seinem Ende steht noch etwas</translation>
     </message>
     <message>
         <source>nothing follows the last “\”</source>
-        <translation>auf das letzte „\“ folgt nichts</translation>
+        <translation type="vanished">auf das letzte „\“ folgt nichts</translation>
     </message>
     <message>
         <source>a quote is not closed</source>
-        <translation>ein Anführungszeichen ist nicht geschlossen</translation>
+        <translation type="vanished">ein Anführungszeichen ist nicht geschlossen</translation>
     </message>
     <message>
         <source>a name is missing</source>
-        <translation>ein Name fehlt</translation>
+        <translation type="vanished">ein Name fehlt</translation>
     </message>
     <message>
         <source>a “[” has no “]”</source>
-        <translation>zu einem „[“ fehlt das „]“</translation>
+        <translation type="vanished">zu einem „[“ fehlt das „]“</translation>
     </message>
     <message>
         <source>nothing stands between “[” and “]”</source>
-        <translation>zwischen „[“ und „]“ steht nichts</translation>
+        <translation type="vanished">zwischen „[“ und „]“ steht nichts</translation>
     </message>
     <message>
         <source>behind “@” stand two numbers from 0 to 1, with a comma between them</source>
-        <translation>hinter „@“ stehen zwei Zahlen von 0 bis 1 mit einem Komma dazwischen</translation>
+        <translation type="vanished">hinter „@“ stehen zwei Zahlen von 0 bis 1 mit einem Komma dazwischen</translation>
     </message>
 </context>
 <context>
