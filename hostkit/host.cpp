@@ -118,6 +118,8 @@ Host::Host(QWidget* mainWindow, const Options& options)
         [this](const QString& name, const QString& parameter) { d->runCommand(name, parameter); });
     connect(&d->session, &Session::stepShown, this,
         [this](const Step& step) { emit stepShown(step.label); });
+    connect(&d->session, &Session::targetMissing, this,
+        [this](const Step& step) { emit targetMissing(step.target, step.path); });
     connect(&d->session, &Session::finished, this, [this] { d->end(Result::Completed); });
     connect(&d->session, &Session::failed, this, [this](const QString& reason) {
         emit notice(reason);
@@ -157,6 +159,11 @@ void Host::addCondition(
     const QString& name, std::function<bool(const QStringList& parameters)> condition)
 {
     d->session.words().conditions.insert(name, std::move(condition));
+}
+
+void Host::setLocator(std::function<std::optional<QRect>(const QString& target)> locator)
+{
+    d->session.resolver().setLocator(locator);
 }
 
 QVector<Problem> Host::check(const QString& scenarioPath) const

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -12,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace TutorialHost {
 
@@ -73,6 +75,12 @@ public:
     void addCondition(
         const QString& name, std::function<bool(const QStringList& parameters)> condition);
 
+    // Asked for targets that are no widget and no action, such as what is drawn on
+    // a canvas: the rectangle on the screen, in the coordinates of
+    // QWidget::mapToGlobal(), or nothing. It is asked again whenever something
+    // happens in the program's windows, so it should only look.
+    void setLocator(std::function<std::optional<QRect>(const QString& target)> locator);
+
     // What is wrong with the scenario for this host, in the order of the file;
     // a file that cannot be read is one problem.
     QVector<Problem> check(const QString& scenarioPath) const;
@@ -89,6 +97,9 @@ public:
 signals:
     // A step is on the screen; its label may be empty.
     void stepShown(const QString& label);
+    // Nothing is called by the name of a step's target, so its x, y and
+    // followWindow hold. step: the row at each level of grouping, outermost first.
+    void targetMissing(const QString& target, const QList<int>& step);
     void finished(TutorialHost::Result result);
     // Something that the author or the learner should know, in a sentence.
     void notice(const QString& text);

@@ -4,6 +4,7 @@
 #include "hostkit/core/hostwords.h"
 #include "hostkit/core/player.h"
 #include "hostkit/link/link.h"
+#include "hostkit/targets/targetfollower.h"
 #include "hostkit/windows/controlobserver.h"
 
 #include <QObject>
@@ -34,6 +35,9 @@ public:
     const Player& player() const { return mPlayer; }
     const Link& link() const { return mLink; }
     const ControlObserver& observer() const { return mObserver; }
+    TargetResolver& resolver() { return mTargets.resolver(); }
+    // Where the target of the step on show is; on no screen when it has none.
+    const Target& target() const { return mTargets.target(); }
 
     // Plays the scenario file from the first step at or below this path; an
     // empty path is the whole file. What is wrong with the file is reported as a
@@ -70,8 +74,9 @@ public:
     // stands, or the main window while it is not open. The screen's own when
     // it is no window.
     QPoint originOf(Tutorial::EnumWindowKind window) const;
-    // The screen point at which the step's arrow points, or in whose middle
-    // its hint stands when it has no target.
+    // The screen point at which the step's arrow points: its target's while that
+    // is followed and on the screen, else the step's own; or in whose middle its
+    // hint stands when it points nowhere.
     QPoint targetOf(const Step& step) const;
     // The point that is sent for the step: where the tutorial's window goes
     // so that the arrow's tip is on the target.
@@ -82,6 +87,8 @@ signals:
     void commandRequested(const QString& name, const QString& parameter);
     void stepShown(const Step& step);
     void stepDone(const Step& step);
+    // Nothing is called by the name of the step's target.
+    void targetMissing(const Step& step);
     // The scenario was played to its end, or the tutorial is gone.
     void finished();
     void failed(const QString& reason);
@@ -95,6 +102,21 @@ private:
     void onApplicationStateChanged(Qt::ApplicationState state);
     // Shows or hides the tutorial with the main window.
     void setMinimized(bool on);
+    void onTargetChanged();
+    // The point of a step that no target is followed for.
+    void sendOwnPoint();
+    void setPreview(const Step& step);
+    // The host's windows, by the names that scenarios call them.
+    TargetWindows targetWindows() const;
+    QStringList indicatorMessage(const Step& step, int flags) const;
+    // Whether what the step names is on the screen, so that its own point does
+    // not count.
+    bool isFollowed(const Step& step) const;
+    void connectRegistry();
+    void connectPlayer();
+    void connectLink();
+    // What the step points at is gone: its hint stays without an arrow.
+    void sendLost(const Step& step);
     void sendStep(const Step& step);
     void sendPoint(const Step& step);
     // The step that the arrow follows: the one that is played, or the author's.
@@ -106,6 +128,7 @@ private:
 
     WindowRegistry& mRegistry;
     ControlObserver mObserver;
+    TargetFollower mTargets;
     Player mPlayer;
     Link mLink;
     HostWords mWords;
@@ -118,6 +141,8 @@ private:
     // "start" was sent, and no "stop" since.
     bool mStarted = false;
     bool mMinimized = false;
+    // The step was sent with the point of its target.
+    bool mSentFollowed = false;
     int mRestarts = 0;
     int mRestartsLeft = 0;
     QTimer mHideTimer;

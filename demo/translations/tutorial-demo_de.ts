@@ -675,6 +675,10 @@
 <context>
     <name>TutorialHost::Player</name>
     <message>
+        <source>Step %1 waits for “%2”.</source>
+        <translation>Schritt %1 wartet auf „%2“.</translation>
+    </message>
+    <message>
         <source>Step %1 waits for the window “%2”.</source>
         <translation>Schritt %1 wartet auf das Fenster „%2“.</translation>
     </message>

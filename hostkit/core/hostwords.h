@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tutorial/vocabulary/tutorialaction.h"
 #include "tutorial/vocabulary/vocabulary.h"
 
 #include <QHash>
@@ -29,10 +30,18 @@ struct HostWords {
         if (window(name) == Tutorial::WindowKindCount)
             windows.insert(name,
                 Tutorial::EnumWindowKind(Tutorial::WindowKindCount + 1 + int(windows.size())));
+        added.insert(window(name));
         return window(name);
+    }
+    // The name of the window that has this kind.
+    QString windowName(Tutorial::EnumWindowKind kind) const
+    {
+        return windows.key(kind, TutorialAction::getWindowKindName(kind));
     }
 
     QHash<QString, Tutorial::EnumWindowKind> windows;
+    // The kinds of the windows that the host has, described or its own.
+    QSet<Tutorial::EnumWindowKind> added;
     QSet<QString> commands;
     QHash<QString, std::function<bool(const QStringList& parameters)>> conditions;
 };

@@ -18,7 +18,8 @@ constexpr int kAskMs = 100;
 
 } // namespace
 
-Player::Player(const HostState& state, QObject* parent) : QObject(parent), mState(state)
+Player::Player(const HostState& state, TargetView& targets, QObject* parent)
+    : QObject(parent), mState(state), mTargets(targets)
 {
     mJudgeTimer.setSingleShot(true);
     connect(&mJudgeTimer, &QTimer::timeout, this, &Player::judge);
@@ -32,8 +33,12 @@ Player::Player(const HostState& state, QObject* parent) : QObject(parent), mStat
     mPatienceTimer.setSingleShot(true);
     mPatienceTimer.setInterval(kPatienceMs);
     connect(&mPatienceTimer, &QTimer::timeout, this, [this] {
-        emit notice(tr("Step %1 waits for the window “%2”.")
-                        .arg(step().pathText(), TutorialAction::getWindowKindName(step().window)));
+        const QString path = step().pathText();
+        if (windowIsOpen(step()) && !step().target.isEmpty())
+            emit notice(tr("Step %1 waits for “%2”.").arg(path, step().target));
+        else
+            emit notice(tr("Step %1 waits for the window “%2”.")
+                            .arg(path, TutorialAction::getWindowKindName(step().window)));
     });
 }
 
@@ -48,7 +53,9 @@ void Player::stop()
 {
     mCurrent = -1;
     mHistory.clear();
+    mReached.clear();
     mShown = false;
+    mTargets.follow({});
     for (QTimer* timer : {&mJudgeTimer, &mWaitTimer, &mPatienceTimer, &mOwnTimer})
         timer->stop();
 }
@@ -86,6 +93,27 @@ bool Player::windowIsOpen(const Step& step) const
         || mState.windowState(step.window) == QLatin1String("open");
 }
 
+bool Player::canBeShown(int index) const
+{
+    const Step& step = mScenario.steps.at(index);
+    const auto reach = step.target.isEmpty() ? TargetView::Missing : mTargets.reach(step.target);
+    return reach == TargetView::Reachable
+        || (reach == TargetView::Missing && !mReached.contains(index) && windowIsOpen(step));
+}
+
+void Player::noteTarget()
+{
+    if (step().target.isEmpty())
+        return;
+    const auto reach = mTargets.reach(step().target);
+    if (reach == TargetView::Reachable)
+        mReached.insert(mCurrent);
+    if (reach != TargetView::Missing || mToldMissing)
+        return;
+    mToldMissing = true;
+    emit targetMissing(step());
+}
+
 void Player::enter(int index)
 {
     mMet = false;
@@ -100,6 +128,7 @@ void Player::enter(int index)
         return;
     }
     mCurrent = index;
+    mReached.remove(index);
     if (!step().fault.isEmpty())
         emit notice(tr("Step %1: %2").arg(step().pathText(), step().fault));
     if (!step().presetData.isEmpty())
@@ -112,16 +141,23 @@ void Player::enter(int index)
     if (step().condition.own)
         mOwnTimer.start();
     mPatienceTimer.start();
+    mTargets.follow(step().target);
     mJudgeTimer.start(kSettleMs);
 }
 
 void Player::judge()
 {
-    if (mMet || isMet(step().condition, step().window, mState))
+    if (mMet || isMet(step().condition, step().window, mState)) {
         finishStep();
-    else if (isShown() && !windowIsOpen(step()))
+        return;
+    }
+    if (isShown())
+        noteTarget();
+    if (!isPlaying())
+        return;
+    if (isShown() && !canBeShown(mCurrent))
         goBack();
-    else if (!isShown() && windowIsOpen(step()))
+    else if (!isShown() && canBeShown(mCurrent))
         show();
 }
 
@@ -129,29 +165,35 @@ void Player::show()
 {
     mPatienceTimer.stop();
     mShown = true;
+    mToldMissing = false;
     if (step().condition.kind == Condition_wait && step().condition.fault().isEmpty())
         mWaitTimer.start(qRound(step().condition.parameter(0).toDouble() * 1000));
     if (isAboutNothing(step().condition, step().window, mState))
         emit notice(tr("Step %1: nothing in the window is called “%2”.")
                         .arg(step().pathText(), step().condition.parameter(0)));
     emit stepShown(step());
+    if (isPlaying() && isShown())
+        noteTarget();
 }
 
 void Player::goBack()
 {
-    while (!mHistory.isEmpty() && !windowIsOpen(mScenario.steps.at(mHistory.last())))
+    while (!mHistory.isEmpty() && !canBeShown(mHistory.last()))
         mHistory.removeLast();
     mShown = false;
     mWaitTimer.stop();
     mPatienceTimer.start();
-    if (mHistory.isEmpty())
+    if (mHistory.isEmpty()) {
+        emit stepLost(step());
         return;
+    }
     // Not entered anew: data that this step loads would undo the learner's work.
     mCurrent = mHistory.takeLast();
     mMet = false;
     mOwnTimer.stop();
     if (step().condition.own)
         mOwnTimer.start();
+    mTargets.follow(step().target);
     judge();
 }
 

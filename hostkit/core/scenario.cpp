@@ -40,6 +40,7 @@ Step stepOf(const QJsonObject& json, const QList<int>& path, const HostWords& wo
     step.path = path;
     step.point = pointOf(json);
     step.window = words.window(text(json, "followWindow"));
+    step.target = text(json, "target");
     step.condition = Condition::fromText(text(json, "condition"), words);
     step.label = text(json, "label");
     step.hint = text(json, "hint");

@@ -26,6 +26,9 @@ struct Step {
     // The kind that is no window when the scenario names none or an unknown
     // one: then the point is one of the screen.
     Tutorial::EnumWindowKind window = Tutorial::WindowKindCount;
+    // The name of what it points at, which counts before the point; empty for
+    // none.
+    QString target;
     Condition condition;
     // As the file has it, so possibly a translation expression.
     QString hint;

@@ -4,6 +4,9 @@
 #include <QDialog>
 #include <QEvent>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Tutorial;
 using namespace TutorialHost;
 
@@ -29,6 +32,19 @@ QWidget* WindowRegistry::window(EnumWindowKind kind) const
 {
     const QList<QWidget*> open = mOpen.value(kind);
     return open.isEmpty() ? nullptr : open.last();
+}
+
+QVector<QWidget*> WindowRegistry::windows(EnumWindowKind kind) const
+{
+    const QList<QWidget*> open = mOpen.value(kind);
+    QVector<QWidget*> found;
+    std::copy(open.rbegin(), open.rend(), std::back_inserter(found));
+    for (auto it = mKinds.begin(); it != mKinds.end(); ++it) {
+        auto* widget = static_cast<QWidget*>(const_cast<QObject*>(it.key()));
+        if (*it == kind && !found.contains(widget))
+            found << widget;
+    }
+    return found;
 }
 
 QList<EnumWindowKind> WindowRegistry::windowsAround(const QWidget* widget) const

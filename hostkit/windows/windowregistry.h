@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPoint>
 #include <QSize>
+#include <QVector>
 #include <QWidget>
 
 namespace TutorialHost {
@@ -28,6 +29,14 @@ public:
     bool contains(const QWidget* window) const { return mKinds.contains(window); }
     // The open window of the kind, the one that was opened last; null when there is none.
     QWidget* window(Tutorial::EnumWindowKind kind) const;
+    // Every widget of the kind, open or not, the one that was opened last first.
+    QVector<QWidget*> windows(Tutorial::EnumWindowKind kind) const;
+    // The kind of the window that the widget itself is; WindowKindCount when it is
+    // none.
+    Tutorial::EnumWindowKind kindOf(const QWidget* widget) const
+    {
+        return mKinds.value(widget, Tutorial::WindowKindCount);
+    }
     // Kinds of the windows in which the widget is, the innermost first.
     QList<Tutorial::EnumWindowKind> windowsAround(const QWidget* widget) const;
     // "open", or how it was closed: see HostState::windowState().

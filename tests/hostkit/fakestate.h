@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hostkit/core/condition.h"
+#include "hostkit/core/targetview.h"
 
 #include <QHash>
 
@@ -26,4 +27,13 @@ struct FakeState : TutorialHost::HostState {
     std::optional<int> length;
     std::optional<int> row;
     std::optional<bool> checked;
+};
+
+// Targets that are where the test says; the others are missing.
+struct FakeTargets : TutorialHost::TargetView {
+    void follow(const QString& target) override { followed = target; }
+    Reach reach(const QString& target) override { return reaches.value(target, Missing); }
+
+    QHash<QString, Reach> reaches;
+    QString followed;
 };

@@ -18,6 +18,7 @@ private slots:
     void branches();
     void waitsForTheWindow();
     void goesBackWhenTheWindowIsGone();
+    void goesByTheTarget();
     void saysWhatCannotBeMet();
     void startsInTheMiddle();
 
@@ -29,6 +30,7 @@ private:
     bool did(const char* text);
 
     FakeState mState;
+    FakeTargets mTargets;
     Player* mPlayer = nullptr;
     QStringList mDone;
 };
@@ -36,14 +38,17 @@ private:
 void tst_Player::init()
 {
     mState = {};
+    mTargets = {};
     mState.states.insert(Window_MainWindow, QStringLiteral("open"));
     mDone.clear();
     delete mPlayer;
-    mPlayer = new Player(mState, this);
+    mPlayer = new Player(mState, mTargets, this);
     connect(
         mPlayer, &Player::stepShown, this, [this](const Step& step) { mDone << step.pathText(); });
     connect(mPlayer, &Player::presetDataRequested, this,
         [this](const QString& name) { mDone << QStringLiteral("data ") + name; });
+    connect(mPlayer, &Player::targetMissing, this, [this] { mDone << QStringLiteral("missing"); });
+    connect(mPlayer, &Player::stepLost, this, [this] { mDone << QStringLiteral("lost"); });
     connect(mPlayer, &Player::notice, this, [this] { mDone << QStringLiteral("notice"); });
     connect(mPlayer, &Player::finished, this, [this] { mDone << QStringLiteral("end"); });
 }
@@ -116,6 +121,43 @@ void tst_Player::goesBackWhenTheWindowIsGone()
 
     open(Window_Options, "cancel");
     QVERIFY(did("[1]"));
+}
+
+void tst_Player::goesByTheTarget()
+{
+    const auto reach = [this](const char* target, TargetView::Reach now) {
+        mTargets.reaches.insert(QLatin1String(target), now);
+        mPlayer->onStateChanged();
+    };
+    // The window of the second one is not open, nor has to be.
+    mTargets.reaches = {{QStringLiteral("a"), TargetView::Reachable},
+        {QStringLiteral("b"), TargetView::Reachable}, {QStringLiteral("c"), TargetView::Hidden}};
+    play(R"([{"condition": "click", "target": "a", "followWindow": "MainWindow"},
+             {"condition": "click", "target": "b", "followWindow": "Options"},
+             {"condition": "click", "target": "c", "followWindow": "MainWindow"},
+             {"condition": "click", "target": "d", "followWindow": "MainWindow"}])");
+    QVERIFY(did("[0]"));
+    answer("next");
+    QVERIFY(did("[1]"));
+    answer("next");
+    QVERIFY(did("notice"));
+    QCOMPARE(mTargets.followed, QStringLiteral("c"));
+    reach("c", TargetView::Reachable);
+    QVERIFY(did("[2]"));
+
+    // The one before is gone as well, and does not come back by its point.
+    open(Window_Options);
+    mTargets.reaches.remove(QStringLiteral("b"));
+    reach("c", TargetView::Hidden);
+    QVERIFY(did("[0]"));
+    reach("b", TargetView::Reachable);
+    answer("next");
+    QVERIFY(did("[1]"));
+    answer("next");
+    reach("c", TargetView::Reachable);
+    QVERIFY(did("[2]"));
+    answer("next");
+    QVERIFY(did("[3]; missing"));
 }
 
 void tst_Player::saysWhatCannotBeMet()
