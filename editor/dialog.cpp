@@ -87,6 +87,7 @@ Dialog::Dialog(QWidget* parent)
     createMenuBar();
     connectForm();
     connectHistory();
+    connectLookups();
 
     QWidget* previous = mTreeView;
     for (QWidget* widget : mForm->editors() + QVector<QWidget*>{mAddField, mSave}) {

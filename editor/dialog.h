@@ -15,6 +15,7 @@ class QStandardItem;
 namespace TutorialEditor {
 
 class FormArea;
+class Lookups;
 class Model;
 class ScenarioDocument;
 class StepForm;
@@ -135,6 +136,7 @@ private:
     void createMenuBar();
     void connectForm();
     void connectHistory();
+    void connectLookups();
 
     // Loading.
     void bringToFront();
@@ -142,6 +144,11 @@ private:
     // Asks the host for the translation of one hint. rows: the item's action index
     // list.
     void localizeItem(const TutorialItem* item, const QList<int>& rows);
+
+    // What the host has looked up for a step.
+    void onCommentFound(const QModelIndex& step, const QString& text);
+    void onHintFound(const QModelIndex& step, const QString& text);
+    QModelIndex formIndex() const;
 
     // Editing.
     // handler: what a debug line calls the change. isTyping: with other typing in
@@ -151,6 +158,9 @@ private:
     // name: what the menu calls the act; empty for a change of the field.
     void onValueChanged(StepField field, bool isTyping, const QString& name = QString());
     void requestUntr(const QString& key, const QString& text) const;
+    // The same for what is in the form.
+    void requestComment(const QString& comment);
+    void requestHint(const QString& hint);
     void checkTreeBox() const;
     // Points the overlay at the step in the form; x, y: kNoCoordinate for none.
     void pointIndicator(int x, int y) const;
@@ -190,6 +200,8 @@ private:
     StepFields mFields; // what the form held after the last load or rebuild
     ScenarioDocument* const mDocument;
     StepHistory* mHistory = nullptr;
+    Lookups* mComments = nullptr; // those of the form
+    Lookups* mHints = nullptr;
     QTimer mCompare; // runs from an act on
     qint64 mCompareMs = 0; // what the last comparison took
 };

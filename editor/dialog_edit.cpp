@@ -45,14 +45,14 @@ void Dialog::onCommentChanged()
 {
     const QString text = mForm->fields().comment;
     onFieldChanged(__func__, text, CommentField);
-    requestUntr(QStringLiteral("comment"), text);
+    requestComment(text);
 }
 
 void Dialog::onHintChanged()
 {
     const QString text = mForm->fields().hint;
     onFieldChanged(__func__, text, HintField);
-    requestUntr(QStringLiteral("hint"), text);
+    requestHint(text);
 }
 
 void Dialog::onConditionCurrentIndexChanged(const QString& text)

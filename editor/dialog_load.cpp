@@ -5,6 +5,7 @@
 #include "editor/errorbox.h"
 #include "editor/form/stepform.h"
 #include "editor/history/stephistory.h"
+#include "editor/lookups.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
 #include "editor/model/tutorialitem.h"
@@ -167,9 +168,9 @@ void Dialog::linkToEdit(TutorialItem* item)
     if (fields.shown & FollowWindowField)
         checkTreeBox();
     if (fields.shown & CommentField)
-        requestUntr(kComment, fields.comment);
+        requestComment(fields.comment);
     if (!fields.hint.isEmpty() && mItem->translation().isEmpty())
-        requestUntr(kHint, fields.hint);
+        requestHint(fields.hint);
     pointIndicator(coordinate(fields.x), coordinate(fields.y));
 }
 
@@ -180,16 +181,69 @@ void Dialog::fillForm(const StepFields& fields)
     mFields = mForm->fields();
 }
 
+void Dialog::connectLookups()
+{
+    mComments = new Lookups(this);
+    mHints = new Lookups(this);
+    connect(mComments, &Lookups::found, this, &Dialog::onCommentFound);
+    connect(mHints, &Lookups::found, this, &Dialog::onHintFound);
+    connect(mComments, &Lookups::lost, this, [this](const QList<QPersistentModelIndex>& steps) {
+        if (mItem && steps.contains(formIndex()))
+            requestComment(mFields.comment);
+    });
+    // With its place in the key it is another question, and so is its answer.
+    connect(mHints, &Lookups::lost, this, [this](const QList<QPersistentModelIndex>& steps) {
+        for (const QModelIndex step : steps) {
+            const TutorialItem* item = mModel->itemAt(step);
+            localizeItem(item, mModel->getActionIndexList(item));
+        }
+    });
+}
+
+void Dialog::requestComment(const QString& comment)
+{
+    if (!TutorialManager::mInstance)
+        return;
+    requestUntr(kComment, comment);
+    mComments->add(formIndex());
+}
+
+void Dialog::requestHint(const QString& hint)
+{
+    if (!TutorialManager::mInstance)
+        return;
+    requestUntr(kHint, hint);
+    mHints->add(formIndex());
+}
+
+QModelIndex Dialog::formIndex() const
+{
+    return mItem ? mItem->index() : QModelIndex();
+}
+
+void Dialog::onCommentFound(const QModelIndex& step, const QString& text)
+{
+    if (step == formIndex())
+        mForm->setCommentTranslation(text);
+}
+
+void Dialog::onHintFound(const QModelIndex& step, const QString& text)
+{
+    if (step.isValid())
+        setLocalized(mModel->itemAt(step), text);
+    if (step != formIndex())
+        return;
+    mForm->setHintTranslation(text);
+    pointIndicator(mFields.x.toInt(), mFields.y.toInt());
+}
+
 void Dialog::untrCallback(const QString& first, const QString& second)
 {
     const QString text = lookedUpText(second);
     if (first == kComment) {
-        mForm->setCommentTranslation(text);
+        mComments->take(text, formIndex());
     } else if (first == kHint) {
-        mForm->setHintTranslation(text);
-        if (mItem)
-            setLocalized(mItem, text);
-        pointIndicator(mFields.x.toInt(), mFields.y.toInt());
+        mHints->take(text, formIndex());
     } else if (first.startsWith(kHint)) {
         QList<int> rows;
         for (const QString& row : first.mid(kHint.size()).split(QLatin1Char(',')))
