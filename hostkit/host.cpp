@@ -4,21 +4,25 @@
 #include "editor/scenario/checker.h"
 #include "editor/scenario/scenarioreader.h"
 #include "hostkit/authoring.h"
+#include "hostkit/livenames.h"
 #include "hostkit/session.h"
 #include "hostkit/windows/windowregistry.h"
-#include "tutorial/vocabulary/tutorialaction.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QFileInfo>
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QLocale>
 #include <QMenu>
 #include <QTranslator>
 
+#include <algorithm>
+
 using namespace Tutorial;
 using namespace TutorialHost;
-using TutorialEditor::HostNames;
+using TutorialEditor::Rule;
 
 namespace {
 
@@ -30,6 +34,23 @@ QStringList argumentsOf(const Options& options)
     if (!options.styleSheet.isEmpty())
         arguments << QStringLiteral("-stylesheet") << options.styleSheet;
     return arguments;
+}
+
+// The step or group with this path, counted as problems count it; without keys
+// when there is none.
+QJsonObject stepAt(QJsonArray level, const QList<int>& path)
+{
+    QJsonObject step;
+    for (const int row : path) {
+        int steps = 0;
+        const auto found = std::find_if(level.begin(), level.end(),
+            [&](const QJsonValue& value) { return !value.toObject().isEmpty() && steps++ == row; });
+        if (found == level.end())
+            return {};
+        step = (*found).toObject();
+        level = step.value(QLatin1String("group")).toArray();
+    }
+    return step;
 }
 
 Result resultOf(Link::Failure failure)
@@ -58,6 +79,9 @@ public:
     void runCommand(const QString& name, const QString& parameter);
     void loadTranslation(const QString& scenarioPath);
     void end(Result result);
+    // What the step names is not among the names of now, but is there, or may be
+    // when its window is.
+    bool mayBeThere(const Problem& problem, const QJsonObject& step);
 
     Host& host;
     const Options options;
@@ -71,6 +95,32 @@ public:
     // play() succeeded, and finished() was not emitted since.
     bool isPlaying = false;
 };
+
+bool Host::Private::mayBeThere(const Problem& problem, const QJsonObject& step)
+{
+    switch (problem.rule) {
+    case Rule::UnknownTarget: {
+        const QString target = step.value(QLatin1String("target")).toString();
+        const TargetPath path = TargetPath::fromText(target);
+        const auto kind = path.segments.isEmpty() ? windows.constEnd()
+                                                  : windows.constFind(path.segments.first().name);
+        return (kind != windows.constEnd() && registry.windows(*kind).isEmpty())
+            || session.resolver().resolve(target).state != Target::Missing;
+    }
+    case Rule::UnknownAction:
+    case Rule::UnknownList:
+    case Rule::UnknownComboBox:
+    case Rule::UnknownCheckBox: {
+        const EnumWindowKind kind =
+            session.words().window(step.value(QLatin1String("followWindow")).toString());
+        // Every menu is a window of the same name.
+        return kind == Window_Popup
+            || (kind != WindowKindCount && registry.windows(kind).isEmpty());
+    }
+    default:
+        return false;
+    }
+}
 
 void Host::Private::watch(QWidget* widget)
 {
@@ -150,8 +200,7 @@ void Host::addWindow(const QString& objectName, const QString& name)
 
 void Host::addCommand(const QString& name, std::function<bool(const QString& parameter)> command)
 {
-    if (getCommandKind(name) == CommandKindCount)
-        d->session.words().commands.insert(name);
+    d->session.words().commands.insert(name);
     d->commands.insert(name, std::move(command));
 }
 
@@ -176,15 +225,15 @@ QVector<Problem> Host::check(const QString& scenarioPath) const
     }
     TutorialEditor::CheckOptions options;
     options.context = QFileInfo(scenarioPath).completeBaseName();
-    const HostWords& words = d->session.words();
-    QStringList windows{TutorialAction::getWindowKindName(Window_MainWindow),
-        TutorialAction::getWindowKindName(Window_Popup)};
-    for (const EnumWindowKind kind : qAsConst(d->windows))
-        windows << words.windows.key(kind, TutorialAction::getWindowKindName(kind));
-    options.names.set(HostNames::Windows, windows);
-    options.names.set(HostNames::Commands, d->commands.keys());
-    options.names.set(HostNames::Conditions, words.conditions.keys());
-    return TutorialEditor::Checker::checkText(text, options);
+    options.names = liveNames(d->session.words(), d->registry);
+    QVector<Problem> problems = TutorialEditor::Checker::checkText(text, options);
+    const QJsonArray steps = TutorialEditor::readScenario(text, &errors);
+    problems.erase(std::remove_if(problems.begin(), problems.end(),
+                       [&](const Problem& problem) {
+                           return d->mayBeThere(problem, stepAt(steps, problem.step));
+                       }),
+        problems.end());
+    return problems;
 }
 
 bool Host::play(const QString& scenarioPath, const QString& fromLabel)

@@ -81,8 +81,10 @@ public:
     // happens in the program's windows, so it should only look.
     void setLocator(std::function<std::optional<QRect>(const QString& target)> locator);
 
-    // What is wrong with the scenario for this host, in the order of the file;
-    // a file that cannot be read is one problem.
+    // What is wrong with the scenario for this host, in the order of the file; a
+    // file that cannot be read is one problem. The names in it are looked for among
+    // all that this program has now, shown or not. Windows that are made only when
+    // they are opened are taken to hold what is asked of them.
     QVector<Problem> check(const QString& scenarioPath) const;
 
     // Plays the scenario, from the step with the label if one is given. False,

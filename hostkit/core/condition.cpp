@@ -21,8 +21,6 @@ const QHash<QString, bool (*)(int, int)> kComparisons = {
 };
 const QStringList kStates = {QStringLiteral("open"), QStringLiteral("close"), QStringLiteral("ok"),
     QStringLiteral("cancel")};
-const QStringList kLists = {
-    QStringLiteral("listBox1"), QStringLiteral("listBox2"), QStringLiteral("Map")};
 const QStringList kMouseEvents = {QStringLiteral("click"), QStringLiteral("doubleClick")};
 
 bool compare(std::optional<int> left, const QString& comparison, int right)
@@ -54,12 +52,12 @@ bool parametersAreSound(const Condition& condition)
     case Condition_wait:
         return isSeconds(first);
     case Condition_mouseEvent:
-        return kLists.contains(first) && kMouseEvents.contains(second);
+        return !first.isEmpty() && kMouseEvents.contains(second);
     case Condition_textLength:
     case Condition_spinBox:
         return kComparisons.contains(first) && isInteger(second);
     case Condition_popup:
-        return first == QLatin1String("*") || kLists.contains(first);
+        return !first.isEmpty();
     case Condition_list:
         return isInteger(first);
     case Condition_action:

@@ -41,8 +41,8 @@ struct HostWords;
 //   yesNo,LABEL,LABEL          Yes or No was pressed; the player goes to the
 //                              label, or to the next step when that is empty
 //
-// LIST is the object name listBox1, listBox2 or Map, OP one of
-// = < <= > >= !=, and NAME a widget's object name. Parameters beyond these are
+// LIST is the object name of a list, or Map, OP one of = < <= > >= !=, and NAME
+// a widget's object name. Parameters beyond these are
 // ignored.
 //
 // windowState, textLength, comboBox, checked and spinBox look at how things

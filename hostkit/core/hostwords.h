@@ -42,6 +42,7 @@ struct HostWords {
     QHash<QString, Tutorial::EnumWindowKind> windows;
     // The kinds of the windows that the host has, described or its own.
     QSet<Tutorial::EnumWindowKind> added;
+    // Also a described one that the host has.
     QSet<QString> commands;
     QHash<QString, std::function<bool(const QStringList& parameters)>> conditions;
 };

@@ -51,7 +51,7 @@ Step stepOf(const QJsonObject& json, const QList<int>& path, const HostWords& wo
     const QString commandName = command.section(QLatin1Char(','), 0, 0);
     if (getCommandKind(commandName) == Command_presetData)
         step.presetData = command.section(QLatin1Char(','), 1);
-    if (words.commands.contains(commandName)) {
+    else if (words.commands.contains(commandName)) {
         step.command = commandName;
         step.commandParameter = command.section(QLatin1Char(','), 1);
     }

@@ -91,7 +91,7 @@ private:
     Locator mLocator;
     // The target that was resolved last, taken apart.
     QString mText;
-    TargetPath mPath;
+    TargetPath mPath = TargetPath::fromText({});
     // The widget of its first segment when that is no window's own name, and the
     // widgets of all segments.
     QPointer<QWidget> mScope;

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <QPoint>
+#include <QSet>
 #include <QSize>
 #include <QVector>
 #include <QWidget>
@@ -37,6 +38,8 @@ public:
     {
         return mKinds.value(widget, Tutorial::WindowKindCount);
     }
+    // The kinds of the widgets that there are.
+    QSet<Tutorial::EnumWindowKind> kinds() const { return {mKinds.cbegin(), mKinds.cend()}; }
     // Kinds of the windows in which the widget is, the innermost first.
     QList<Tutorial::EnumWindowKind> windowsAround(const QWidget* widget) const;
     // "open", or how it was closed: see HostState::windowState().

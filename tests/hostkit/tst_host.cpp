@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include <TutorialHost/Host>
 
+#include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QtTest>
 
 #include <algorithm>
 #include <csignal>
 
 using namespace TutorialHost;
+
+Q_DECLARE_METATYPE(TutorialEditor::Rule)
 
 namespace {
 
@@ -28,7 +33,8 @@ private slots:
     void tellsWhyThereIsNoTutorial();
     void startsALostTutorialAgain();
     void stopsBeforeItHasBegun();
-    void checksAgainstItsWords();
+    void checksAgainstTheProgram_data();
+    void checksAgainstTheProgram();
 
 private:
     QString write(const QString& name, const QByteArray& text);
@@ -187,24 +193,81 @@ void tst_Host::stopsBeforeItHasBegun()
     QVERIFY(!steps.wait(2000));
 }
 
-void tst_Host::checksAgainstItsWords()
+void tst_Host::checksAgainstTheProgram_data()
 {
-    QWidget window;
+    using TutorialEditor::Rule;
+    QTest::addColumn<QByteArray>("keys");
+    // What is found, before the notes' dialog is made and after.
+    QTest::addColumn<Rule>("before");
+    QTest::addColumn<Rule>("after");
+    const auto row = [](const char* keys, Rule before, Rule after) {
+        QTest::newRow(keys) << QByteArray(keys) << before << after;
+    };
+    const auto always = [&row](const char* keys, Rule rule) { row(keys, rule, rule); };
+    always(R"("condition": "filled,1", "followWindow": "Notes")", Rule::Count);
+    always(R"("condition": "emptied,1", "followWindow": "Notes")", Rule::UnknownCondition);
+    always(R"("condition": "filled,1", "followWindow": "Options")", Rule::UnknownWindow);
+    always(R"("condition": "yesNo,nowhere,")", Rule::UnknownLabel);
+    always(R"("condition": "click", "command": "presetData,anything")", Rule::Count);
+    always(R"("condition": "click", "command": "empty,a")", Rule::UnknownCommand);
+    const char kMain[] = R"("followWindow": "MainWindow", "condition": )";
+    const auto main = [&](const char* condition, Rule rule) {
+        always(qPrintable(QLatin1String(kMain) + QLatin1String(condition)), rule);
+    };
+    main(R"("action,Find")", Rule::Count);
+    main(R"("action,Fnid")", Rule::UnknownAction);
+    main(R"("list,1", "target": "maps[7]")", Rule::Count);
+    main(R"("mouseEvent,maps,click")", Rule::Count);
+    main(R"("mouseEvent,mops,click")", Rule::UnknownList);
+    main(R"("checked,on,1")", Rule::UnknownCheckBox);
+    main(R"("click", "target": "action:Fnid")", Rule::UnknownTarget);
+    main(R"("click", "target": "MainWindow/maps")", Rule::Count);
+    main(R"("click", "target": "MainWindow/mops")", Rule::UnknownTarget);
+    main(R"("click", "target": "the third island")", Rule::Count);
+    main(R"("click", "target": "the fourth island")", Rule::UnknownTarget);
+    // What a dialog will hold is known when it is made.
+    row(R"("condition": "comboBox,paper,1", "followWindow": "Notes")", Rule::Count, Rule::Count);
+    row(R"("condition": "comboBox,size,1", "followWindow": "Notes")", Rule::Count,
+        Rule::UnknownComboBox);
+    row(R"("condition": "click", "target": "Notes/paper")", Rule::Count, Rule::Count);
+    row(R"("condition": "click", "target": "notesDialog/paper")", Rule::Count, Rule::Count);
+    row(R"("condition": "click", "target": "Notes/size")", Rule::Count, Rule::UnknownTarget);
+}
+
+void tst_Host::checksAgainstTheProgram()
+{
+    using TutorialEditor::Rule;
+    QFETCH(QByteArray, keys);
+    QFETCH(Rule, before);
+    QFETCH(Rule, after);
+    QMainWindow window;
+    window.menuBar()->addAction(QStringLiteral("Find"))->setObjectName(QStringLiteral("Find"));
+    (new QListWidget(&window))->setObjectName(QStringLiteral("maps"));
     Host host(&window);
     host.addWindow(QStringLiteral("notesDialog"), QStringLiteral("Notes"));
     host.addCondition(QStringLiteral("filled"), [](const QStringList&) { return false; });
-    using TutorialEditor::Rule;
-    const auto has = [&](const char* condition, const char* followed, Rule rule) {
-        const QByteArray text = QByteArray("var scenario = [\n    {\"condition\": \"") + condition
-            + "\", \"followWindow\": \"" + followed + "\"}\n];\n";
-        const auto problems = host.check(write(QStringLiteral("checked.js"), text));
-        return std::any_of(problems.begin(), problems.end(),
-            [&](const Problem& problem) { return problem.rule == rule; });
+    host.addCommand(QStringLiteral("presetData"), [](const QString&) { return true; });
+    host.setLocator([](const QString& target) -> std::optional<QRect> {
+        if (target != QLatin1String("the third island"))
+            return {};
+        return QRect(0, 0, 9, 9);
+    });
+    const QString path =
+        write(QStringLiteral("checked.js"), "var scenario = [\n    {" + keys + "}\n];\n");
+    const auto found = [&] {
+        const auto problems = host.check(path);
+        for (const Problem& problem : problems) {
+            if (problem.rule >= Rule::UnknownWindow && problem.rule <= Rule::UnknownLabel)
+                return problem.rule;
+        }
+        return Rule::Count;
     };
-    QVERIFY(!has("filled,1", "Notes", Rule::UnknownCondition));
-    QVERIFY(!has("filled,1", "Notes", Rule::UnknownWindow));
-    QVERIFY(has("emptied,1", "Notes", Rule::UnknownCondition));
-    QVERIFY(has("filled,1", "Options", Rule::UnknownWindow));
+    QCOMPARE(found(), before);
+    QDialog dialog(&window);
+    dialog.setObjectName(QStringLiteral("notesDialog"));
+    (new QComboBox(&dialog))->setObjectName(QStringLiteral("paper"));
+    host.addWindow(QStringLiteral("notesDialog"), QStringLiteral("Notes"));
+    QCOMPARE(found(), after);
     QCOMPARE(host.check(QStringLiteral("/nowhere.js")).size(), 1);
 }
 

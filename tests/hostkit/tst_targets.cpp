@@ -415,6 +415,8 @@ void tst_Targets::takesTheNearestAndTheFrontOne()
                              },
         {}});
     QCOMPARE(resolver.resolve(QStringLiteral("Question/ok")).state, Target::Hidden);
+    // No name at all used to be taken for a path that was read already.
+    QCOMPARE(TargetResolver().resolve(QString()).state, Target::Missing);
 }
 
 void tst_Targets::describes_data()
