@@ -8,9 +8,12 @@
 #include "hostkit/windows/windowregistry.h"
 #include "tutorial/vocabulary/tutorialaction.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
+
+#include <utility>
 
 using namespace Tutorial;
 using namespace TutorialHost;
@@ -33,7 +36,8 @@ Step bareStep(std::optional<QPoint> point = {}, EnumWindowKind window = Window_M
 Authoring::Authoring(Session& session, const WindowRegistry& registry, QObject* parent)
     : QObject(parent), mSession(session), mRegistry(registry),
       mPicker(
-          [this](const QWidget& widget, const QPoint& point) { return describe(widget, point); })
+          [this](const QWidget& widget, const QPoint& point) { return describe(widget, point); }),
+      mNames(session.words(), registry)
 {
     connect(&session.link(), &Link::received, this, &Authoring::onReceived);
     connect(&session, &Session::finished, this, [this] {
@@ -42,6 +46,7 @@ Authoring::Authoring(Session& session, const WindowRegistry& registry, QObject* 
     });
     connect(&session, &Session::failed, this, [this] {
         mPath.clear();
+        mNames.stop();
         mOnTrial = false;
         mPicker.stop();
         mRecorder.stop();
@@ -56,12 +61,9 @@ Authoring::Authoring(Session& session, const WindowRegistry& registry, QObject* 
         emit notice(tr("The condition is “%1”.").arg(condition.text));
     });
 
-    connect(&mPicker, &PointPicker::picked, this, [this](const QPoint& point) {
-        const QPoint offset = point - mSession.originOf(mStep.window);
-        mSession.send({QStringLiteral("editor"), QStringLiteral("coordinates"),
-            QString::number(offset.x()), QString::number(offset.y())});
-        emit notice(tr("The point is %1, %2.").arg(offset.x()).arg(offset.y()));
-    });
+    connect(&mNames, &NamesFeed::told, this,
+        [this](const QStringList& fields) { mSession.send(fields); });
+    connect(&mPicker, &PointPicker::picked, this, &Authoring::onPicked);
     connect(&mPicker, &PointPicker::cancelled, this,
         [this] { emit notice(tr("No point was picked.")); });
 }
@@ -86,6 +88,7 @@ void Authoring::edit(const QString& path)
     mSession.whenConnected([this] {
         mSession.show(mStep);
         mSession.send({QStringLiteral("editor"), QStringLiteral("open"), mPath});
+        mNames.start();
     });
 }
 
@@ -112,7 +115,9 @@ void Authoring::stop()
 void Authoring::onReceived(const QStringList& fields)
 {
     const QStringList arguments = fields.mid(1);
-    if (fields.first() == QLatin1String("indicator") && arguments.size() >= 4
+    if (fields.first() == QLatin1String("editor"))
+        onEditor(arguments);
+    else if (fields.first() == QLatin1String("indicator") && arguments.size() >= 4
         && arguments.first() == QLatin1String("updateXYFollowWindow"))
         follow(arguments.mid(1));
     else if (fields.first() == QLatin1String("untr") && arguments.size() >= 2)
@@ -124,12 +129,22 @@ void Authoring::onReceived(const QStringList& fields)
         pickPoint();
 }
 
+void Authoring::onEditor(const QStringList& fields)
+{
+    const QString verb = fields.value(0);
+    if (verb == QLatin1String("target") && fields.size() == 2)
+        mTarget = fields.at(1);
+    else if (verb == QLatin1String("closed"))
+        mNames.stop();
+}
+
 void Authoring::follow(const QStringList& fields)
 {
     const QPoint offset(fields.at(0).toInt(), fields.at(1).toInt());
     const int kind = fields.at(2).toInt();
     const bool isWindow = kind >= 0 && kind < WindowKindCount;
     mStep = bareStep(std::nullopt, isWindow ? EnumWindowKind(kind) : WindowKindCount);
+    mStep.target = std::exchange(mTarget, QString());
     if (offset != QPoint(kNoCoordinate, kNoCoordinate))
         mStep.point = offset;
     // What is played owns the arrow for as long as it lasts.
@@ -176,6 +191,20 @@ void Authoring::pickPoint()
     mSession.activate();
     mPicker.start();
     emit notice(tr("Click the point that the step shows; Escape leaves it as it is."));
+}
+
+void Authoring::onPicked(const QPoint& point)
+{
+    const QPoint offset = point - mSession.originOf(mStep.window);
+    mSession.send({QStringLiteral("editor"), QStringLiteral("coordinates"),
+        QString::number(offset.x()), QString::number(offset.y())});
+    // Without a name the one that the step had is wrong now.
+    QWidget* widget = QApplication::widgetAt(point);
+    const QString target = widget ? mSession.resolver().describe(widget, point) : QString();
+    mSession.send({QStringLiteral("editor"), QStringLiteral("target"), target});
+    emit notice(target.isEmpty()
+            ? tr("The point is %1, %2.").arg(offset.x()).arg(offset.y())
+            : tr("The point is %1, %2 in “%3”.").arg(offset.x()).arg(offset.y()).arg(target));
 }
 
 QString Authoring::describe(const QWidget& widget, const QPoint& point) const

@@ -3,6 +3,7 @@
 
 #include "hostkit/core/conditionrecorder.h"
 #include "hostkit/core/scenario.h"
+#include "hostkit/namesfeed.h"
 #include "hostkit/windows/pointpicker.h"
 
 #include <QObject>
@@ -33,6 +34,8 @@ public:
     // Sends the condition that the author's next action would meet to the step
     // at work.
     void recordCondition();
+    // The host's words may be others than the editor was told.
+    void updateNames() { mNames.update(); }
     // Ends a trial run; without one, takes the arrow off the screen until the
     // editor points at something again.
     void stop();
@@ -42,20 +45,25 @@ signals:
 
 private:
     void onReceived(const QStringList& fields);
+    void onEditor(const QStringList& fields);
     // fields: x, y and the window kind of the step at work.
     void follow(const QStringList& fields);
     void lookUp(const QString& key, const QString& text);
     void tryOut(const QStringList& path);
     void endTrial();
     void pickPoint();
+    void onPicked(const QPoint& point);
     QString describe(const QWidget& widget, const QPoint& point) const;
 
     Session& mSession;
     const WindowRegistry& mRegistry;
     ConditionRecorder mRecorder;
     PointPicker mPicker;
+    NamesFeed mNames;
     // The file that was opened last; empty when no editor is there.
     QString mPath;
+    // The target of the step that the editor tells of next.
+    QString mTarget;
     // The step at work as far as the host knows it: at least where it points.
     Step mStep;
     bool mOnTrial = false;

@@ -191,6 +191,7 @@ Host::~Host()
 void Host::addWindow(const QString& objectName, const QString& name)
 {
     d->windows.insert(objectName, d->session.words().addWindow(name));
+    d->authoring.updateNames();
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
         if (widget->objectName() == objectName)
@@ -201,6 +202,7 @@ void Host::addWindow(const QString& objectName, const QString& name)
 void Host::addCommand(const QString& name, std::function<bool(const QString& parameter)> command)
 {
     d->session.words().commands.insert(name);
+    d->authoring.updateNames();
     d->commands.insert(name, std::move(command));
 }
 
@@ -208,6 +210,7 @@ void Host::addCondition(
     const QString& name, std::function<bool(const QStringList& parameters)> condition)
 {
     d->session.words().conditions.insert(name, std::move(condition));
+    d->authoring.updateNames();
 }
 
 void Host::setLocator(std::function<std::optional<QRect>(const QString& target)> locator)

@@ -603,6 +603,10 @@
         <translation>Der Punkt ist %1, %2.</translation>
     </message>
     <message>
+        <source>The point is %1, %2 in “%3”.</source>
+        <translation>Der Punkt ist %1, %2 in „%3“.</translation>
+    </message>
+    <message>
         <source>No point was picked.</source>
         <translation>Es wurde kein Punkt gewählt.</translation>
     </message>

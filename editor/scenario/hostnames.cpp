@@ -43,6 +43,11 @@ int distance(const QString& a, const QString& b)
 
 } // namespace
 
+QString HostNames::nameOf(List list)
+{
+    return QLatin1String(kKeys[std::size_t(list)]);
+}
+
 std::optional<HostNames> HostNames::fromJson(const QByteArray& json, QString* error)
 {
     QJsonParseError parseError;
@@ -53,7 +58,7 @@ std::optional<HostNames> HostNames::fromJson(const QByteArray& json, QString* er
     }
     HostNames result;
     for (int list = 0; list < ListCount; ++list) {
-        const QString key = QLatin1String(kKeys[std::size_t(list)]);
+        const QString key = nameOf(List(list));
         const QJsonValue value = document.object().value(key);
         if (value.isUndefined())
             continue;

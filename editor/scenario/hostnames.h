@@ -30,6 +30,9 @@ public:
     // passed over. Nothing, with the error, when it is no such object.
     static std::optional<HostNames> fromJson(const QByteArray& json, QString* error);
 
+    // "windows", …, as that JSON and the host's messages call the list.
+    static QString nameOf(List list);
+
     bool isGiven(List list) const { return mLists[list].has_value(); }
     bool contains(List list, const QString& name) const
     {

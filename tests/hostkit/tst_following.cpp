@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/authoring.h"
 #include "hostkit/session.h"
 #include "hostkit/windows/windowregistry.h"
 #include "tests/hostkit/guestlink.h"
@@ -74,12 +75,18 @@ private slots:
     void pointsAtNothingElse();
     void fallsBackWithoutTheTarget_data();
     void fallsBackWithoutTheTarget();
+    void previewsTheTarget();
+    void namesWhatIsPicked();
+    void tellsTheNames();
 
 private:
     void play(const QByteArray& steps);
     bool isShown() const { return mSession->player().isShown(); }
     // Where the arrow's tip was sent to last.
     QPoint tip() const;
+    // Opens the file in an authoring tool of the test's.
+    void edit(Authoring& authoring);
+    QStringList names(const char* list) const;
     bool isTipIn(const QWidget* widget, const QRect& part = {}) const;
     bool hasArrow() const;
     bool comesTo(const QWidget* widget) const
@@ -314,6 +321,123 @@ void tst_Following::fallsBackWithoutTheTarget()
     QTRY_VERIFY(isTipIn(later));
     QVERIFY(hasArrow());
     QCOMPARE(missing, QStringList{QStringLiteral("later")});
+}
+
+void tst_Following::edit(Authoring& authoring)
+{
+    authoring.edit(mFolder.filePath(QStringLiteral("edited.js")));
+    QVERIFY(mGuest->connectToHost());
+    QTRY_VERIFY(!mGuest->last(QStringLiteral("editor"), QStringLiteral("open")).isEmpty());
+}
+
+QStringList tst_Following::names(const char* list) const
+{
+    for (int i = mGuest->received.size() - 1; i >= 0; --i) {
+        const QStringList fields = mGuest->received.at(i);
+        if (fields.value(1) == QLatin1String("names") && fields.value(2) == QLatin1String(list))
+            return fields.mid(3);
+    }
+    return {};
+}
+
+void tst_Following::previewsTheTarget()
+{
+    Authoring authoring(*mSession, *mRegistry);
+    edit(authoring);
+    const auto select = [&](const char* target) {
+        if (target)
+            mGuest->send(
+                {QStringLiteral("editor"), QStringLiteral("target"), QLatin1String(target)});
+        mGuest->send({QStringLiteral("indicator"), QStringLiteral("updateXYFollowWindow"),
+            QStringLiteral("70"), QStringLiteral("80"), QString::number(Window_MainWindow)});
+    };
+    const auto isAtPoint = [&] {
+        return tip() == mSession->originOf(Window_MainWindow) + QPoint(70, 80);
+    };
+    select("apply");
+    QTRY_VERIFY(isTipIn(mWindow->button));
+    mWindow->move(mWindow->pos() + QPoint(20, 20));
+    mWindow->dock->close();
+    QTRY_VERIFY(isTipIn(mWindow->button));
+    select("swatch");
+    QTRY_VERIFY(isTipIn(mWindow->tabs->tabBar(), mWindow->tabs->tabBar()->tabRect(1)));
+    select("nothing");
+    QTRY_VERIFY(isAtPoint());
+    select("apply");
+    QTRY_VERIFY(isTipIn(mWindow->button));
+    // A tool that sends none has none.
+    select(nullptr);
+    QTRY_VERIFY(isAtPoint());
+}
+
+void tst_Following::namesWhatIsPicked()
+{
+    Authoring authoring(*mSession, *mRegistry);
+    edit(authoring);
+    const auto pick = [&](QWidget* widget, const QPoint& place) {
+        mGuest->received.clear();
+        mGuest->send({QStringLiteral("coordinates"), QStringLiteral("request")});
+        QTRY_COMPARE(QGuiApplication::overrideCursor() != nullptr, true);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, place);
+        QTRY_VERIFY(!mGuest->last(QStringLiteral("editor"), QStringLiteral("target")).isEmpty());
+        QVERIFY(!mGuest->last(QStringLiteral("editor"), QStringLiteral("coordinates")).isEmpty());
+    };
+    const auto picked = [&] {
+        return mGuest->last(QStringLiteral("editor"), QStringLiteral("target")).value(2);
+    };
+    pick(mWindow->button, mWindow->button->rect().center());
+    QCOMPARE(picked(), QStringLiteral("MainWindow/apply"));
+    pick(mWindow->tabs->tabBar(), mWindow->tabs->tabBar()->tabRect(1).center());
+    QCOMPARE(picked(), QStringLiteral("MainWindow/tabs[Colours]"));
+    QDialog nameless;
+    nameless.resize(300, 300);
+    nameless.move(600, 300);
+    nameless.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&nameless));
+    pick(&nameless, QPoint(20, 20));
+    QCOMPARE(picked(), QString());
+}
+
+void tst_Following::tellsTheNames()
+{
+    mSession->words().addWindow(QStringLiteral("Notes"));
+    mSession->words().conditions.insert(
+        QStringLiteral("lines"), [](const QStringList&) { return false; });
+    mWindow->view->actions().first()->setObjectName(QStringLiteral("Show Layers"));
+    Authoring authoring(*mSession, *mRegistry);
+    edit(authoring);
+    QTRY_VERIFY(!names("targets").isEmpty());
+    QCOMPARE(names("windows"),
+        (QStringList{
+            QStringLiteral("MainWindow"), QStringLiteral("Notes"), QStringLiteral("Popup")}));
+    QCOMPARE(names("actions"), QStringList{QStringLiteral("Show Layers")});
+    QCOMPARE(names("lists"), (QStringList{QStringLiteral("layers"), QStringLiteral("maps")}));
+    QCOMPARE(names("conditions"), QStringList{QStringLiteral("lines")});
+    for (const char* target : {"MainWindow/apply", "MainWindow", "action:Show Layers"})
+        QVERIFY(names("targets").contains(QLatin1String(target)));
+
+    // Again when it changes, and only what did.
+    mGuest->received.clear();
+    QDialog dialog;
+    dialog.setObjectName(QStringLiteral("ask"));
+    named("deep", new QCheckBox(&dialog));
+    named("kind", new QComboBox(&dialog));
+    dialog.show();
+    QTRY_COMPARE(names("check boxes"), QStringList{QStringLiteral("deep")});
+    QTRY_COMPARE(names("combo boxes"), QStringList{QStringLiteral("kind")});
+    QTRY_VERIFY(names("targets").contains(QStringLiteral("ask/deep")));
+    QVERIFY(names("actions").isEmpty());
+    mGuest->received.clear();
+    mSession->words().commands.insert(QStringLiteral("openFile"));
+    authoring.updateNames();
+    QTRY_COMPARE(names("commands"), QStringList{QStringLiteral("openFile")});
+    // Not to a tool that was closed.
+    mGuest->send({QStringLiteral("editor"), QStringLiteral("closed")});
+    mGuest->received.clear();
+    QTest::qWait(50);
+    named("late", new QCheckBox(&dialog))->show();
+    QTest::qWait(500);
+    QVERIFY(names("check boxes").isEmpty());
 }
 
 QTEST_MAIN(tst_Following)
