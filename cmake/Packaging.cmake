@@ -4,7 +4,8 @@
 set(CPACK_GENERATOR "DEB")
 set(CPACK_PACKAGE_NAME "tutorial")
 set(CPACK_PACKAGE_CONTACT "The tutorial's maintainers <maintainers@example.org>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+# Each package has its own, and what stands here would come before it.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL tutorial tutorial-demo tutorial-host-dev)
@@ -12,6 +13,8 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The kit's shared library, for the programs that link it
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 
 if(TUTORIAL_QT EQUAL 6)
   set(qt_development "qt6-base-dev (>= ${least_qt})")
@@ -52,8 +55,10 @@ learner or by itself, and opens them in the tool that they are written with."
 debian_package(tutorial-host-dev libdevel
   "library for programs that play tutorials
 What a Qt program links to play tutorials, as a static and as a shared library,
-with headers and packages for CMake and pkg-config; and the learner's hands, for
-the tests of such programs."
+with headers and packages for CMake and pkg-config; and the learner's hands,
+for the tests of such programs."
   DEPENDS ${qt_development} libx11-dev libxtst-dev
   RECOMMENDS "tutorial ${same_version}")
+set(CPACK_DEBIAN_TUTORIAL-HOST-DEV_PACKAGE_CONTROL_EXTRA
+  ${CMAKE_SOURCE_DIR}/packaging/debian/triggers)
 include(CPack)

@@ -22,6 +22,8 @@ packages=(
   xvfb openbox picom xdotool x11-utils xrestop xauth
   # the host that is no Qt program
   python3 python3-tk
+  # Debian's packages, and the flags of the installed library
+  dpkg-dev file lintian pkg-config
   # a plain font for the windows
   fonts-dejavu-core
 )
