@@ -1,59 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "tests/support/overlaywindows.h"
 #include "tests/support/xdotool.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <algorithm>
-
 namespace {
 
 constexpr int kDeadlineMs = 20000;
-constexpr QSize kBalloonSize(640, 480);
-constexpr QSize kButtonSize(64, 32);
 constexpr QPoint kTip(38, 165);
 // The balloon stops short by a few pixels when it comes from the left or above.
 constexpr int kTolerance = 3;
-
-// Where a window stands without its frame, which xdotool adds.
-QRect geometryOf(const QString& window)
-{
-    QProcess process;
-    process.start(QStringLiteral("xwininfo"), {QStringLiteral("-id"), window});
-    process.waitForFinished(kDeadlineMs);
-    const QString text = QString::fromLatin1(process.readAllStandardOutput());
-    const auto number = [&text](const char* name) {
-        const QString title = QString::fromLatin1(name) + QLatin1Char(':');
-        return text.section(title, 1).section(QLatin1Char('\n'), 0, 0).trimmed().toInt();
-    };
-    return {number("Absolute upper-left X"), number("Absolute upper-left Y"), number("Width"),
-        number("Height")};
-}
-
-// The tutorial's windows of this size, from left to right.
-QVector<QRect> overlayWindows(const QSize& size)
-{
-    QVector<QRect> found;
-    const QStringList windows =
-        xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                    QStringLiteral("--classname"), QStringLiteral("^tutorial$")})
-            .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString& window : windows) {
-        const QRect geometry = geometryOf(window);
-        if (geometry.size() == size)
-            found << geometry;
-    }
-    std::sort(
-        found.begin(), found.end(), [](const QRect& a, const QRect& b) { return a.x() < b.x(); });
-    return found;
-}
-
-void clickAt(const QPoint& point)
-{
-    xdotool({QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y()),
-        QStringLiteral("click"), QStringLiteral("1")});
-}
 
 } // namespace
 
