@@ -25,6 +25,7 @@ constexpr int kLockMs = 3000;
 ScenarioDocument::ScenarioDocument(Steps steps, QObject* parent)
     : QObject(parent), mSteps(std::move(steps))
 {
+    connect(&mWatch, &DiskWatch::changed, this, &ScenarioDocument::noticed);
 }
 
 ScenarioDocument::~ScenarioDocument() = default;
@@ -37,6 +38,18 @@ bool ScenarioDocument::isGone() const
 bool ScenarioDocument::isChangedOnDisk() const
 {
     return !mPath.isEmpty() && checkDisk() == ChangedOnDisk;
+}
+
+ScenarioDocument::Notice ScenarioDocument::notice() const
+{
+    const DiskFile& now = mWatch.seen();
+    if (now == mKnown || (!now.isThere() && !mKnown.isThere()))
+        return NothingNew;
+    if (!now.isThere())
+        return FileGone;
+    if (now.kind() == DiskFile::Other)
+        return NoFile;
+    return now.isReadable() ? ReadableFile : UnreadableFile;
 }
 
 std::optional<int> ScenarioDocument::differenceFromDisk(const QJsonArray& steps) const
@@ -66,14 +79,25 @@ bool ScenarioDocument::open(const QString& path, QString* text, QStringList* err
     keepUnsaved();
     mPath = path;
     startRecovery();
-    return read(text, errors);
+    const bool isRead = read(text, errors);
+    mWatch.watch(mPath, mKnown);
+    return isRead;
 }
 
 void ScenarioDocument::setPath(const QString& path)
 {
     mPath = path;
-    mKnown = disk();
+    setKnown(disk());
+    mWatch.watch(mPath, mKnown);
     startRecovery();
+}
+
+void ScenarioDocument::setKnown(const DiskFile& known)
+{
+    mKnown = known;
+    mAgreed = DiskFile();
+    mWatch.setSeen(known);
+    emit noticed();
 }
 
 bool ScenarioDocument::reload(QString* text, QStringList* errors)
@@ -87,8 +111,7 @@ bool ScenarioDocument::reload(QString* text, QStringList* errors)
 bool ScenarioDocument::read(QString* text, QStringList* errors)
 {
     QByteArray bytes;
-    mKnown = DiskFile::at(mPath, &bytes);
-    mAgreed = DiskFile();
+    setKnown(DiskFile::at(mPath, &bytes));
     mExtent = NothingRead;
     mIsUnreadable = false;
     if (!mKnown.isReadable())
@@ -148,8 +171,7 @@ ScenarioDocument::SaveReport ScenarioDocument::trySave(const QString& json, cons
     replace(bytes, &report);
     if (report.result != Saved)
         return report;
-    mKnown = DiskFile::of(bytes);
-    mAgreed = DiskFile();
+    setKnown(DiskFile::of(bytes));
     mExtent = AllRead;
     mIsUnreadable = !report.problems.isEmpty();
     setSaved(json);

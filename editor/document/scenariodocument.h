@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/document/diskfile.h"
+#include "editor/document/diskwatch.h"
 #include "editor/document/savedstate.h"
 
 #include <QJsonArray>
@@ -41,6 +42,14 @@ public:
         NotKept, // the former file; nothing was replaced
         NotWritten
     };
+    // What was noticed of the file since it was read or saved.
+    enum Notice {
+        NothingNew,
+        ReadableFile, // another one
+        UnreadableFile,
+        NoFile, // but a folder, a pipe or a device
+        FileGone
+    };
     struct SaveReport {
         SaveResult result = NotWritten;
         QStringList problems; // why what was saved cannot be read again, for the author
@@ -58,6 +67,8 @@ public:
     bool isGone() const;
     // Whether a file lies there that is not the one that was read or saved last.
     bool isChangedOnDisk() const;
+    // Costs no look at the disk. noticed() tells of another one.
+    Notice notice() const;
     // By how many steps the file that lies there now differs from these; none when
     // it cannot be read.
     std::optional<int> differenceFromDisk(const QJsonArray& steps) const;
@@ -103,9 +114,15 @@ public:
     // Goes on with one of them, whose steps are now worked on.
     void adopt(std::unique_ptr<RecoveryCopy> copy);
 
+signals:
+    // notice() is another one, perhaps.
+    void noticed();
+
 private:
     enum Extent { NothingRead, PartRead, AllRead };
 
+    // Whatever is called the known file is on the disk, or was a moment ago.
+    void setKnown(const DiskFile& known);
     void startRecovery();
     bool read(QString* text, QStringList* errors);
     bool wasReadWhole() const;
@@ -119,6 +136,7 @@ private:
     const Steps mSteps;
     QString mPath;
     DiskFile mKnown; // what was read or saved last
+    DiskWatch mWatch;
     DiskFile mAgreed; // what the author has agreed to replace
     Extent mExtent = NothingRead; // of mKnown
     bool mIsUnreadable = false; // what save() wrote there last

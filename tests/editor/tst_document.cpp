@@ -14,7 +14,6 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <thread>
 
 using namespace TutorialEditor;
 
@@ -133,6 +132,7 @@ private slots:
     void keptFileIsNeverWorse();
     void replacesNothingThatIsNotKept();
     void agreementIsForOneFile();
+    void noticesWhatOthersDo();
     void toolsThatSaveAtOnceLoseNothing();
     void countsDifferences_data();
     void countsDifferences();
@@ -384,6 +384,39 @@ void tst_Document::agreementIsForOneFile()
     QVERIFY(!QFile::exists(kept()));
 }
 
+void tst_Document::noticesWhatOthersDo()
+{
+    write(path(), textOf("a"_s));
+    Work work(path());
+    QSignalSpy spy(&work.document, &Document::noticed);
+    work.steps = stepsOf("b"_s);
+    QCOMPARE(work.save().result, Document::Saved);
+    write(path(), textOf("c"_s));
+    QTRY_COMPARE(work.document.notice(), Document::ReadableFile);
+    QVERIFY(QFile::resize(path(), kTooLarge));
+    QTRY_COMPARE(work.document.notice(), Document::UnreadableFile);
+    makePipe(path());
+    QTRY_COMPARE(work.document.notice(), Document::NoFile);
+    QVERIFY(QFileInfo(path()).dir().removeRecursively());
+    QTRY_COMPARE(work.document.notice(), Document::FileGone);
+    init();
+    write(path(), textOf("d"_s));
+    QTRY_COMPARE(work.document.notice(), Document::ReadableFile);
+    // One for the own writing.
+    QCOMPARE(spy.count(), 6);
+    QString text;
+    QStringList errors;
+    QVERIFY(work.document.reload(&text, &errors));
+    QCOMPARE(work.document.notice(), Document::NothingNew);
+    QCOMPARE(text.toUtf8(), textOf("d"_s));
+    // Where there was no file.
+    Work other(kept("x"_s));
+    write(kept("x"_s), textOf("e"_s));
+    QTRY_COMPARE(other.document.notice(), Document::ReadableFile);
+    QVERIFY(QFile::remove(kept("x"_s)));
+    QTRY_COMPARE(other.document.notice(), Document::NothingNew);
+}
+
 void tst_Document::toolsThatSaveAtOnceLoseNothing()
 {
     constexpr int kSaves = 25;
@@ -396,10 +429,11 @@ void tst_Document::toolsThatSaveAtOnceLoseNothing()
             done += work.save().result == Document::Saved;
         }
     };
-    std::thread first(addSteps, "a"_s);
-    std::thread second(addSteps, "b"_s);
-    first.join();
-    second.join();
+    const QScopedPointer<QThread> first(QThread::create(addSteps, "a"_s));
+    const QScopedPointer<QThread> second(QThread::create(addSteps, "b"_s));
+    first->start();
+    second->start();
+    QVERIFY(first->wait() && second->wait());
     QCOMPARE(Work(path()).steps.size(), 2 * kSaves);
 }
 
