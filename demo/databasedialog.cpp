@@ -10,7 +10,7 @@ EntryPage::EntryPage(const Texts& texts, const QVector<Entry>& entries, QWidget*
     : QWidget(parent), mEntries(entries), mList(new QListWidget), mForm(new QWidget)
 {
     mList->setObjectName(QStringLiteral("entries"));
-    mList->setFixedWidth(170);
+    mList->setMinimumWidth(170);
     for (const Entry& entry : entries)
         mList->addItem(entry.name);
 

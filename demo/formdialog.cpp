@@ -29,7 +29,7 @@ FormDialog::FormDialog(const QString& title, QWidget* parent) : QDialog(parent)
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     for (QPushButton* button : {ok, cancel}) {
-        button->setFixedSize(kButtonWidth, kRowHeight + 2);
+        button->setMinimumSize(kButtonWidth, kRowHeight + 2);
         buttons->addWidget(button);
     }
 
@@ -49,7 +49,7 @@ QFormLayout* FormDialog::newForm(int labelWidth)
     form->setHorizontalSpacing(12);
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     auto* spacer = new QWidget;
-    spacer->setFixedSize(labelWidth, 0);
+    spacer->setMinimumWidth(labelWidth);
     form->addRow(spacer, static_cast<QWidget*>(nullptr));
     return form;
 }
@@ -57,6 +57,5 @@ QFormLayout* FormDialog::newForm(int labelWidth)
 void FormDialog::prepare(QWidget* field, const char* name)
 {
     field->setObjectName(QLatin1String(name));
-    field->setFixedHeight(kRowHeight);
-    field->setFixedWidth(kFieldWidth);
+    field->setMinimumSize(kFieldWidth, kRowHeight);
 }

@@ -133,34 +133,6 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     return {};
 }
 
-// One look on every desktop, with a font of fixed size: the scenarios point
-// into the windows by pixels.
-void setLook(QApplication& application)
-{
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(13);
-    QApplication::setFont(font);
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(0xf4, 0xf5, 0xf7));
-    palette.setColor(QPalette::Button, QColor(0xf4, 0xf5, 0xf7));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf4, 0xf5, 0xf7));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Active, role, QColor(0x24, 0x2e, 0x3b));
-    palette.setColor(QPalette::Highlight, QColor(0x2d, 0x7d, 0xd2));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    QApplication::setPalette(palette);
-    application.setStyleSheet(QStringLiteral(
-        "QMenuBar, QToolBar, QStatusBar { background: #e9ecf1; }"
-        "QToolBar { border: none; border-bottom: 1px solid #cfd5de; padding: 3px; spacing: 2px; }"
-        "QListWidget, QTreeWidget { border: 1px solid #cfd5de; border-radius: 4px; }"
-        "#listBox2::item, #entries::item, #commands::item { height: 23px; }"
-        "#qt_msgbox_label { min-width: 340px; min-height: 32px; }"
-        "QMessageBox QPushButton { min-width: 84px; min-height: 18px; }"
-        "#mapArea { border: 1px solid #cfd5de; background: #5b6674; }"));
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -175,7 +147,6 @@ int main(int argc, char** argv)
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::received, &application,
         [](int number) { QCoreApplication::exit(kEndedBySignal + number); });
-    setLook(application);
     QTranslator translator;
     if (translator.load(QStringLiteral(":/translations/tutorial-demo_%1").arg(arguments.language)))
         QCoreApplication::installTranslator(&translator);

@@ -17,8 +17,11 @@ using namespace TutorialHost;
 namespace {
 
 constexpr QSize kWindowSize(1160, 716);
+// In pixels, and in characters and lines of the user's font: the larger one.
 constexpr int kPanelWidth = 236;
+constexpr int kPanelCharacters = 34;
 constexpr int kTreeHeight = 132;
+constexpr int kTreeLines = 5;
 
 QLabel* newHeading(const QString& text)
 {
@@ -142,24 +145,27 @@ void MainWindow::makeChoice(const QList<QAction*>& actions)
 
 void MainWindow::makeMenus()
 {
+    menuBar()->setObjectName(QStringLiteral("menus"));
     const struct {
+        const char* name;
         QString title;
         QList<const char*> actionNames;
     } menus[] = {
-        {tr("&File"), {"New Project", "", "New Tutorial", "Edit Tutorial", "", "Exit"}},
-        {tr("&Edit"), {"Undo", "Redo"}},
-        {tr("&Map"), {"New Map", "Edit Map", "Delete"}},
-        {tr("&Draw"), {"Map", "Event", "", "Pencil", "Rectangle", "Flood Fill"}},
-        {tr("&View"), {"Zoom In", "Zoom Out", "Actual Size"}},
-        {tr("&Tools"), {"Database", "Options"}},
-        {tr("T&utorial"),
+        {"fileMenu", tr("&File"), {"New Project", "", "New Tutorial", "Edit Tutorial", "", "Exit"}},
+        {"editMenu", tr("&Edit"), {"Undo", "Redo"}},
+        {"mapMenu", tr("&Map"), {"New Map", "Edit Map", "Delete"}},
+        {"drawMenu", tr("&Draw"), {"Map", "Event", "", "Pencil", "Rectangle", "Flood Fill"}},
+        {"viewMenu", tr("&View"), {"Zoom In", "Zoom Out", "Actual Size"}},
+        {"toolsMenu", tr("&Tools"), {"Database", "Options"}},
+        {"tutorialMenu", tr("T&utorial"),
             {"Tutorial", "All Conditions", "Open Scenario", "", "Stop Tutorial", "",
                 "Record Condition"}},
-        {tr("&Help"), {"About"}},
+        {"helpMenu", tr("&Help"), {"About"}},
     };
     for (const auto& entry : menus) {
         QMenu* menu = newMenu(entry.actionNames);
         menu->setTitle(entry.title);
+        menu->setObjectName(QLatin1String(entry.name));
         menuBar()->addMenu(menu);
     }
 }
@@ -210,7 +216,8 @@ QWidget* MainWindow::newLeftPanel()
 {
     auto* panel = new QWidget;
     panel->setObjectName(QStringLiteral("leftPanel"));
-    panel->setFixedWidth(kPanelWidth);
+    const QFontMetrics metrics = fontMetrics();
+    panel->setFixedWidth(qMax(kPanelWidth, kPanelCharacters * metrics.averageCharWidth()));
 
     mTileList = new QListWidget;
     mTileList->setObjectName(QStringLiteral("listBox1"));
@@ -224,7 +231,7 @@ QWidget* MainWindow::newLeftPanel()
     mMapTree->setObjectName(QStringLiteral("mapTree"));
     mMapTree->setHeaderHidden(true);
     mMapTree->setIconSize({20, 20});
-    mMapTree->setFixedHeight(kTreeHeight);
+    mMapTree->setFixedHeight(qMax(kTreeHeight, kTreeLines * metrics.lineSpacing()));
     mMapTree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(mMapTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item && item->parent())

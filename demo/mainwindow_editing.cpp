@@ -183,7 +183,7 @@ void MainWindow::openDeleteMap()
         tr("Shall the map “%1” be deleted?").arg(map().name), QMessageBox::NoButton, this);
     question->setIconPixmap(Artwork::actionIcon(QStringLiteral("Tutorial")).pixmap(32));
     question->addButton(tr("Delete"), QMessageBox::AcceptRole);
-    question->addButton(tr("Keep"), QMessageBox::RejectRole);
+    question->addButton(tr("Keep"), QMessageBox::RejectRole)->setObjectName(QStringLiteral("keep"));
     question->setAttribute(Qt::WA_DeleteOnClose);
     open(Window_MessageBox, question, [this](const QMessageBox&) {
         mProject.maps.remove(mMapIndex);

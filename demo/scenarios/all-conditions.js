@@ -16,6 +16,7 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("<b>Click</b> the map in the corner. Here the arrow points up and the hint stands on its left."),
             "icon": "click",
+            "target": "mapArea@0.92,0.04",
             "x": 1089,
             "y": 108
         },
@@ -24,6 +25,7 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("<b>Double-click</b> near the right edge."),
             "icon": "doubleClick",
+            "target": "mapArea@0.95,0.6",
             "x": 1121,
             "y": 460
         },
@@ -32,6 +34,7 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("Open the map’s <b>context menu</b> with a right click."),
             "icon": "rightClick",
+            "target": "Map@0.4,0.32",
             "x": 577,
             "y": 268
         },
@@ -40,6 +43,7 @@ var scenario = [
             "followWindow": "Popup",
             "hint": qsTr("Choose <b>Edit Event</b>."),
             "icon": "click",
+            "target": "action:Edit Event",
             "x": 60,
             "y": 12
         },
@@ -51,6 +55,7 @@ var scenario = [
                 "followWindow": "EventEditorMain",
                 "hint": qsTr("Type a <b>name</b> of three letters."),
                 "icon": "keyboard",
+                "target": "EventEditorMain\/name",
                 "x": 249,
                 "y": 41
             },
@@ -59,6 +64,7 @@ var scenario = [
                 "followWindow": "EventEditorMain",
                 "hint": qsTr("Choose the <b>first trigger</b>."),
                 "icon": "click",
+                "target": "EventEditorMain\/trigger",
                 "x": 260,
                 "y": 133
             },
@@ -67,6 +73,7 @@ var scenario = [
                 "followWindow": "EventEditorMain",
                 "hint": qsTr("Make it <b>fast</b>: five or more."),
                 "icon": "keyboard",
+                "target": "EventEditorMain\/speed@0.3,0.5",
                 "x": 240,
                 "y": 171
             },
@@ -75,6 +82,7 @@ var scenario = [
                 "followWindow": "EventEditorMain",
                 "hint": qsTr("Turn the <b>animation</b> on."),
                 "icon": "click",
+                "target": "EventEditorMain\/walkAnime@0.05,0.5",
                 "x": 162,
                 "y": 209
             },
@@ -83,6 +91,7 @@ var scenario = [
                 "followWindow": "EventEditorMain",
                 "hint": qsTr("Press <b>OK</b>."),
                 "icon": "click",
+                "target": "EventEditorMain\/ok",
                 "x": 221,
                 "y": 376
             }
@@ -98,6 +107,7 @@ var scenario = [
             "followWindow": "MapEditLeftPanelItem",
             "hint": qsTr("Choose the <b>sixth tile</b>."),
             "icon": "click",
+            "target": "listBox1[5]",
             "x": 60,
             "y": 176
         },
@@ -106,14 +116,16 @@ var scenario = [
             "followWindow": "MapEditLeftPanelItem",
             "hint": qsTr("Click an <b>event</b> in the list."),
             "icon": "click",
+            "target": "listBox2[0]",
             "x": 60,
-            "y": 561
+            "y": 534
         },
         {
             "condition": "popup,*",
             "followWindow": "MapEditTreeBox",
             "hint": qsTr("Right-click a <b>map</b> in the tree."),
             "icon": "rightClick",
+            "target": "mapTree[0][0]",
             "x": 110,
             "y": 393
         },
@@ -122,6 +134,7 @@ var scenario = [
             "followWindow": "Popup",
             "hint": qsTr("Choose <b>Delete Map</b>. Nothing is lost yet."),
             "icon": "click",
+            "target": "action:Delete",
             "x": 60,
             "y": 62
         },
@@ -130,8 +143,9 @@ var scenario = [
             "followWindow": "MessageBox",
             "hint": qsTr("Better press <b>Keep</b>."),
             "icon": "click",
-            "x": 355,
-            "y": 67
+            "target": "MessageBox\/keep",
+            "x": 306,
+            "y": 61
         }
 ]
     },
@@ -143,7 +157,8 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("Open the <b>options</b>. The arrow points up here."),
             "icon": "click",
-            "x": 466,
+            "target": "action:Options",
+            "x": 450,
             "y": 40
         },
         {
@@ -151,6 +166,7 @@ var scenario = [
             "followWindow": "Options",
             "hint": qsTr("Turn the <b>grid</b> off."),
             "icon": "click",
+            "target": "Options\/grid@0.05,0.5",
             "x": 150,
             "y": 41
         },
@@ -159,6 +175,7 @@ var scenario = [
             "followWindow": "Options",
             "hint": qsTr("And leave it as it was: <b>Cancel</b>."),
             "icon": "click",
+            "target": "Options\/cancel",
             "x": 311,
             "y": 162
         },
@@ -167,6 +184,7 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("Open the <b>first menu</b>."),
             "icon": "click",
+            "target": "menus[0]",
             "x": 20,
             "y": 10
         },
@@ -175,6 +193,7 @@ var scenario = [
             "followWindow": "Popup",
             "hint": qsTr("Choose <b>New Project</b>."),
             "icon": "click",
+            "target": "fileMenu[0]",
             "x": 60,
             "y": 12
         },
@@ -184,6 +203,7 @@ var scenario = [
             "hint": qsTr("This step hides its <b>arrow</b>. Wait again."),
             "icon": "wait",
             "option": 1,
+            "target": "NewProject\/title",
             "x": 249,
             "y": 41
         },
@@ -192,6 +212,7 @@ var scenario = [
             "followWindow": "NewProject",
             "hint": qsTr("<b>Close</b> the window."),
             "icon": "click",
+            "target": "NewProject\/cancel",
             "x": 311,
             "y": 238
         }
@@ -203,6 +224,7 @@ var scenario = [
         "hint": qsTr("Press <b>Next</b>."),
         "icon": "eye",
         "label": "again",
+        "target": "mapArea",
         "x": 705,
         "y": 332
     },
@@ -211,6 +233,7 @@ var scenario = [
         "followWindow": "MainWindow",
         "hint": QT_TRANSLATE_NOOP("all-conditions", "Once more? <b>Yes</b> goes back by a step, <b>No</b> goes on."),
         "icon": "eye",
+        "target": "mapArea",
         "x": 705,
         "y": 332
     },
@@ -219,6 +242,7 @@ var scenario = [
         "followWindow": "MainWindow",
         "hint": qsTr("<b>That was all.</b> Press <b>Next</b> to end."),
         "icon": "eye",
+        "target": "mapArea@0.25,0.7",
         "x": 417,
         "y": 524
     }

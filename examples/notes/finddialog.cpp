@@ -18,7 +18,7 @@ FindDialog::FindDialog(QWidget* parent)
     QPushButton* find = buttons->addButton(tr("Find Next"), QDialogButtonBox::ActionRole);
     find->setObjectName(QStringLiteral("findNext"));
     find->setDefault(true);
-    buttons->addButton(QDialogButtonBox::Close);
+    buttons->addButton(QDialogButtonBox::Close)->setObjectName(QStringLiteral("close"));
     connect(find, &QPushButton::clicked, this, &FindDialog::findRequested);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -11,6 +11,7 @@ var scenario = [
         "followWindow": "MainWindow",
         "hint": qsTr("Click here and <b>write</b> something, three words or more."),
         "icon": "keyboard",
+        "target": "note@0.3,0.3",
         "x": 120,
         "y": 120
     },
@@ -22,6 +23,7 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("Open <b>Find</b>."),
             "icon": "click",
+            "target": "action:Find",
             "x": 79,
             "y": 38
         },
@@ -30,6 +32,7 @@ var scenario = [
             "followWindow": "Find",
             "hint": qsTr("Type the beginning of a <b>word</b>."),
             "icon": "keyboard",
+            "target": "Find\/text",
             "x": 120,
             "y": 22
         },
@@ -38,6 +41,7 @@ var scenario = [
             "followWindow": "Find",
             "hint": qsTr("<b>Capitals</b> shall count."),
             "icon": "click",
+            "target": "Find\/matchCase@0.05,0.5",
             "x": 30,
             "y": 50
         },
@@ -46,6 +50,7 @@ var scenario = [
             "followWindow": "Find",
             "hint": qsTr("<b>Find</b> it."),
             "icon": "click",
+            "target": "Find\/findNext",
             "x": 180,
             "y": 80
         },
@@ -54,6 +59,7 @@ var scenario = [
             "followWindow": "Find",
             "hint": qsTr("<b>Close</b> the dialog."),
             "icon": "click",
+            "target": "Find\/close",
             "x": 260,
             "y": 80
         }

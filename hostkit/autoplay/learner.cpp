@@ -25,6 +25,8 @@ constexpr int kPaintMs = 400;
 constexpr int kBounceMs = 2000;
 constexpr int kRestMs = 800;
 
+// What a click on the way to the target opens needs so long at most.
+constexpr int kLeadMs = 3000;
 // From a click into a field, or on a box that opens its list, to the keys.
 constexpr int kReactionMs = 250;
 
@@ -35,6 +37,8 @@ constexpr int kTolerance = 3;
 // How far the balloon stands away when it is on the other side of its target.
 constexpr int kFlippedBy = 180 + 76;
 constexpr int kFlippedDown = 165;
+// Where the tip is in the balloon when it is on neither.
+constexpr QPoint kTip(38, 165);
 
 // What is typed into a line edit, as much of it as the step asks for.
 const QString kText = QStringLiteral("Meadow Tale and the long way home");
@@ -126,6 +130,7 @@ void Learner::onStepShown(const Step& step)
         return;
     }
     mShownTime.start();
+    mLed.reset();
     mToBeDone = true;
 }
 
@@ -146,27 +151,63 @@ void Learner::tick()
         end(QStringLiteral("waited %1 s for %2").arg(kDeadlineMs / 1000).arg(what));
         return;
     }
-    if (mToBeDone && mShownTime.hasExpired(kPaintMs) && arrowHasArrived() && answersAreOnShow()
-        && takeScreenshot()) {
-        mToBeDone = false;
+    if (mToBeDone && mShownTime.hasExpired(kPaintMs) && !waitsForLead() && arrowHasArrived()
+        && answersAreOnShow() && takeScreenshot()) {
+        mToBeDone = isToBeLed();
         act();
     }
 }
 
+QVector<QRect> Learner::tutorialWindows() const
+{
+    const double scale = qGuiApp->devicePixelRatio();
+    QVector<QRect> windows = mInput.windowsOf(mSession.link().processId());
+    for (QRect& window : windows)
+        window = QRect((QPointF(window.topLeft()) / scale).toPoint(),
+            (QSizeF(window.size()) / scale).toSize());
+    return windows;
+}
+
+QPoint Learner::toPixels(const QPoint& point)
+{
+    return (QPointF(point) * qGuiApp->devicePixelRatio()).toPoint();
+}
+
 bool Learner::arrowHasArrived()
 {
-    const QPoint wanted = mSession.sentPointOf(mSession.player().step());
-    const QVector<QRect> windows = mInput.windowsOf(mSession.link().processId());
-    return std::any_of(windows.begin(), windows.end(), [&wanted](const QRect& window) {
-        return window.size() == kBalloonSize
-            && (isNear(window.x(), wanted.x()) || isNear(window.x(), wanted.x() - kFlippedBy))
-            && (isNear(window.y(), wanted.y()) || isNear(window.y(), wanted.y() + kFlippedDown));
-    });
+    const Step& step = mSession.player().step();
+    const QPoint wanted = mSession.sentPointOf(step);
+    const Target& target = mSession.target();
+    const QVector<QRect> windows = tutorialWindows();
+    for (const QRect& window : windows) {
+        const bool isLeft = isNear(window.x(), wanted.x() - kFlippedBy);
+        const bool isBelow = isNear(window.y(), wanted.y() + kFlippedDown);
+        if (window.size() != kBalloonSize || (!isLeft && !isNear(window.x(), wanted.x()))
+            || (!isBelow && !isNear(window.y(), wanted.y())))
+            continue;
+        mTip =
+            window.topLeft() + kTip + QPoint(isLeft ? kFlippedBy : 0, isBelow ? -kFlippedDown : 0);
+        return !target.isOnScreen() || target.rect.contains(mTip);
+    }
+    return false;
+}
+
+bool Learner::isToBeLed() const
+{
+    const EnumConditionKind kind = mSession.player().step().condition.kind;
+    return mSession.target().state == Target::Led && kind != Condition_wait
+        && kind != Condition_click && kind != Condition_yesNo;
+}
+
+bool Learner::waitsForLead() const
+{
+    return mLed && !mShownTime.hasExpired(kLeadMs)
+        && mSession.targetOf(mSession.player().step()) == *mLed;
 }
 
 QVector<QRect> Learner::answerButtons() const
 {
-    QVector<QRect> buttons = mInput.windowsOf(mSession.link().processId());
+    QVector<QRect> buttons = tutorialWindows();
     buttons.erase(std::remove_if(buttons.begin(), buttons.end(),
                       [](const QRect& window) { return window.size() != kButtonSize; }),
         buttons.end());
@@ -208,7 +249,12 @@ void Learner::act()
 {
     const Step& step = mSession.player().step();
     const Condition& condition = step.condition;
-    const QPoint target = mSession.targetOf(step);
+    if (isToBeLed()) {
+        mLed = mSession.targetOf(step);
+        mShownTime.start();
+        mInput.click(toPixels(mTip));
+        return;
+    }
     switch (condition.kind) {
     case Condition_wait:
         break;
@@ -219,22 +265,22 @@ void Learner::act()
     case Condition_textLength:
     case Condition_spinBox:
     case Condition_comboBox:
-        mInput.click(target);
+        mInput.click(toPixels(mTip));
         QTimer::singleShot(kReactionMs, this, [this, condition] { enter(condition); });
         break;
     default:
-        clickTarget(step.icon, target);
+        clickTip(step.icon);
         break;
     }
 }
 
 // What a condition of the host's own asks for, the icon tells alone.
-void Learner::clickTarget(EnumIconKind icon, const QPoint& target)
+void Learner::clickTip(EnumIconKind icon)
 {
     if (icon == Icon_doubleClick)
-        mInput.doubleClick(target);
+        mInput.doubleClick(toPixels(mTip));
     else
-        mInput.click(target, icon == Icon_rightClick ? XInput::Right : XInput::Left);
+        mInput.click(toPixels(mTip), icon == Icon_rightClick ? XInput::Right : XInput::Left);
     if (icon == Icon_keyboard)
         QTimer::singleShot(kReactionMs, this, [this] { mInput.type(kText); });
 }
@@ -263,7 +309,8 @@ void Learner::clickAnswer(const Step& step)
     const bool no = buttons.size() > 1 && mShown.value(step.pathText()) > 1;
     const QRect button = buttons.value(no ? 1 : 0);
     const int fromEdge = kButtonSize.width() / 4;
-    mInput.click({no ? button.right() - fromEdge : button.left() + fromEdge, button.center().y()});
+    mInput.click(
+        toPixels({no ? button.right() - fromEdge : button.left() + fromEdge, button.center().y()}));
 }
 
 void Learner::end(const QString& error)

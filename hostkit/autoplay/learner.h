@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 namespace TutorialHost {
 
@@ -44,14 +45,24 @@ private:
     void onStepShown(const Step& step);
     void onStepDone(const Step& step);
     void tick();
+    // The tutorial's windows, in the coordinates of this program's.
+    QVector<QRect> tutorialWindows() const;
+    // The point of the screen is one of this program's, in its scale.
+    static QPoint toPixels(const QPoint& point);
+    // Finds the arrow among the tutorial's windows, and its tip. False while it is
+    // on its way, or beside what the step names.
     bool arrowHasArrived();
+    // Whether the arrow leads to what the step names, and the learner goes there.
+    bool isToBeLed() const;
+    // The click on what leads there has not shown anything yet.
+    bool waitsForLead() const;
     // The tutorial's own buttons that are on show, from left to right.
     QVector<QRect> answerButtons() const;
     bool answersAreOnShow() const;
     // False when it is not the time yet: the arrow is to be at rest.
     bool takeScreenshot();
     void act();
-    void clickTarget(Tutorial::EnumIconKind icon, const QPoint& target);
+    void clickTip(Tutorial::EnumIconKind icon);
     // The keys that follow the click into the field.
     void enter(const Condition& condition);
     void clickAnswer(const Step& step);
@@ -72,6 +83,10 @@ private:
     // The step is shown and has not been acted on yet.
     bool mToBeDone = false;
     int mPictures = 0;
+    // Where the arrow's tip is on the screen.
+    QPoint mTip;
+    // The place that led there and was clicked last.
+    std::optional<QPoint> mLed;
     // How often each step was shown in this round.
     QHash<QString, int> mShown;
 };
