@@ -4,7 +4,6 @@
 #include "editor/model/tutorialitem.h"
 #include "editor/scenario/debuglog.h"
 #include "editor/scenario/scenarioreader.h"
-#include "editor/scenario/stepfields.h"
 #include "resource/pictures.h"
 
 #include <QIcon>
@@ -220,14 +219,10 @@ void Model::removeModelIndexList(const QList<QModelIndex>& indexes)
 TutorialItem* Model::createItem(const QJsonObject& step, int depth) const
 {
     auto* item = new TutorialItem(0, 0);
+    item->setStep(step);
     item->setDepth(depth);
     const QVariant decoration = icon(Tutorial::getIconKind(textOf(step, "icon")));
     if (decoration.isValid())
         item->setData(decoration, Qt::DecorationRole);
-    item->setData(
-        displayText(textOf(step, "hint"), QString::number(step.value(QLatin1String("x")).toInt()),
-            QString::number(step.value(QLatin1String("y")).toInt()), textOf(step, "followWindow")),
-        Qt::EditRole);
-    item->setStep(step);
     return item;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QIcon>
 #include <QJsonObject>
 #include <QStandardItem>
 #include <QString>
@@ -36,10 +37,18 @@ public:
 
     // Every line end of a text becomes "/", so that an item is one line high.
     void setData(const QVariant& value, int role = Qt::UserRole + 1) override;
+    QVariant data(int role = Qt::UserRole + 1) const override;
     int type() const override { return UserType; }
 
 private:
+    // The text that follows from the step and the hint's translation.
+    QString stepText() const;
+
+    // The base class would keep a list of values for an item: as much again as
+    // the step takes.
     QJsonObject mStep;
+    QString mText; // null: that of the step
+    QIcon mIcon;
     bool mGroup = false;
     int mDepth = -1;
     QString mTranslation;
