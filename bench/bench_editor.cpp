@@ -3,6 +3,7 @@
 #include "bench/samplesteps.h"
 #include "editor/dialog.h"
 #include "editor/document/recoverycopy.h"
+#include "editor/history/stephistory.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
 #include "editor/scenario/checker.h"
@@ -35,7 +36,7 @@ using namespace TutorialEditor;
 // work.
 //
 //   bench_editor                       prints the table's rows
-//   bench_editor memory ours|floor     prints the memory of a tree, in MiB
+//   bench_editor memory ours|floor|deleted   prints the memory of a tree, in MiB
 
 namespace {
 
@@ -174,12 +175,15 @@ std::unique_ptr<Dialog> dialogWith(const QJsonArray& array)
     return dialog;
 }
 
-double keystrokeMs(int count)
+// acts: how many the author could undo before.
+double keystrokeMs(int count, int acts = 0)
 {
     const auto dialog = dialogWith(steps(count));
     auto* tree = dialog->findChild<TreeView*>(QStringLiteral("steps"));
     tree->selectRows(dialog->model()->invisibleRootItem(), 0, 0);
     auto* hint = dialog->findChild<QTextEdit*>(QStringLiteral("hint"));
+    for (int act = 0; act < acts; ++act)
+        dialog->setCoordinates(act, act);
     constexpr int kKeys = 50;
     return medianMs([hint] {
         for (int key = 0; key < kKeys; ++key) {
@@ -187,6 +191,47 @@ double keystrokeMs(int count)
             QCoreApplication::processEvents();
         }
     }) / kKeys;
+}
+
+// Undo and redo of a cut, beside pasting what was cut.
+bool measureHistory()
+{
+    const auto dialog = dialogWith(steps(kSteps));
+    Model* model = dialog->model();
+    auto* tree = dialog->findChild<TreeView*>(QStringLiteral("steps"));
+    QUndoStack* stack = dialog->history()->stack();
+    const auto expect = [model](int rows) {
+        if (model->rowCount() != rows)
+            qFatal("%d rows instead of %d", model->rowCount(), rows);
+    };
+    tree->selectRows(model->invisibleRootItem(), 0, kSteps - 1);
+    QTest::keyClick(tree, Qt::Key_X, Qt::ControlModifier);
+    expect(1);
+    const double undo = medianMs([&] { stack->undo(); },
+        [&] {
+            if (model->rowCount() > 1)
+                stack->redo();
+        });
+    expect(kSteps + 1);
+    const double redo = medianMs([&] { stack->redo(); },
+        [&] {
+            if (model->rowCount() == 1)
+                stack->undo();
+        });
+    expect(1);
+    const double paste = medianMs([&] { QTest::keyClick(tree, Qt::Key_V, Qt::ControlModifier); },
+        [&] {
+            if (model->rowCount() > 1)
+                stack->undo();
+        });
+    expect(kSteps + 1);
+    bool kept =
+        report(QStringLiteral("undoing a cut of 10,000 steps, to pasting them"), undo, paste, 1.5);
+    kept &= report(QStringLiteral("redoing it, to pasting them"), redo, paste, 1.5);
+    constexpr int kActs = 100000;
+    return kept
+        & report(QStringLiteral("a key in the hint box with 100,000 acts to undo, to none"),
+            keystrokeMs(kSteps, kActs), keystrokeMs(kSteps), 1.2);
 }
 
 double groupingMs(int count, double* ungrouping)
@@ -298,6 +343,26 @@ double residentMiB()
     return status.readAll().split(' ').at(1).toDouble() * 4096 / (1024 * 1024);
 }
 
+// The same with all of them deleted, which can be undone.
+int printDeleted()
+{
+    const double before = residentMiB();
+    const auto dialog = dialogWith(steps(kManySteps));
+    Model* model = dialog->model();
+    auto* tree = dialog->findChild<TreeView*>(QStringLiteral("steps"));
+    QCoreApplication::processEvents();
+    malloc_trim(0);
+    const double loaded = residentMiB() - before;
+    tree->selectRows(model->invisibleRootItem(), 0, kManySteps - 1);
+    QTest::keyClick(tree, Qt::Key_Delete);
+    if (model->rowCount() != 1)
+        qFatal("%d rows are left", model->rowCount());
+    QCoreApplication::processEvents();
+    malloc_trim(0);
+    QTextStream(stdout) << loaded << ' ' << residentMiB() - before << '\n';
+    return 0;
+}
+
 // The memory that a tree of many steps holds, without what making it took.
 int printMemory(bool ours)
 {
@@ -316,23 +381,31 @@ int printMemory(bool ours)
     return 0;
 }
 
-double memoryOf(const char* whose)
+QList<QByteArray> memoryOf(const char* whose)
 {
     QProcess process;
     process.start(
         QCoreApplication::applicationFilePath(), {QStringLiteral("memory"), QLatin1String(whose)});
     process.waitForFinished(-1);
-    return process.readAllStandardOutput().trimmed().toDouble();
+    return process.readAllStandardOutput().trimmed().split(' ');
 }
 
 bool measureMemory()
 {
-    const double ours = memoryOf("ours");
-    const double floor = memoryOf("floor");
-    const auto figure = [](double value) { return QStringLiteral("%1 MiB").arg(value, 0, 'f', 1); };
-    return reportRow(QStringLiteral("memory of 100,000 steps"), figure(ours), figure(floor),
-        QStringLiteral("%1 x").arg(ours / floor, 0, 'f', 2), QStringLiteral("at most 1.5 x"),
-        ours <= 1.5 * floor);
+    const auto row = [](const QString& subject, double ours, double floor, double limit) {
+        const auto figure = [](double value) {
+            return QStringLiteral("%1 MiB").arg(value, 0, 'f', 1);
+        };
+        return reportRow(subject, figure(ours), figure(floor),
+            QStringLiteral("%1 x").arg(ours / floor, 0, 'f', 2),
+            QStringLiteral("at most %1 x").arg(limit), ours <= limit * floor);
+    };
+    const bool kept = row(QStringLiteral("memory of 100,000 steps"),
+        memoryOf("ours").first().toDouble(), memoryOf("floor").first().toDouble(), 1.2);
+    const QList<QByteArray> deleted = memoryOf("deleted");
+    return kept
+        & row(QStringLiteral("the same in the tool, deleted but for undo, to before"),
+            deleted.value(1).toDouble(), deleted.first().toDouble(), 1.1);
 }
 
 } // namespace
@@ -343,11 +416,14 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(2) == QLatin1String("deleted"))
+        return printDeleted();
     if (arguments.value(1) == QLatin1String("memory"))
         return printMemory(arguments.value(2) == QLatin1String("ours"));
     bool kept = measureFiles();
     kept &= measureMemory();
     kept &= measureCommands();
+    kept &= measureHistory();
     kept &= measureRecovery();
     return kept ? 0 : 1;
 }
