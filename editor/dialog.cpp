@@ -7,6 +7,7 @@
 #include "editor/history/stephistory.h"
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
+#include "editor/noticebar.h"
 #include "editor/scenario/debuglog.h"
 
 #include <QAction>
@@ -68,6 +69,7 @@ Dialog::Dialog(QWidget* parent)
         "addField", tr("Add field"), tr("Shows a field that the step does not use yet"));
     mAddField->setMenu(new QMenu(mAddField));
     mSave = createButton("save", tr("Save"), tr("Writes the scenario to its file"));
+    mNotice = new NoticeBar(this);
     // The tree speaks to the form as soon as it has its model.
     createTree();
     createContextMenu();
@@ -81,6 +83,7 @@ Dialog::Dialog(QWidget* parent)
     layout->addWidget(mTreeView, 1);
     layout->addWidget(mFormArea);
     layout->addLayout(buttons);
+    layout->addWidget(mNotice);
     // The geometry is the author's, whatever the font.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     setLayout(layout);
@@ -206,6 +209,8 @@ void Dialog::connectForm()
     connect(mForm, &StepForm::fieldAdded, this, &Dialog::onFieldAdded);
     connect(mAddField->menu(), &QMenu::aboutToShow, this, &Dialog::onAddFieldMenu);
     connect(mSave, &QPushButton::clicked, this, &Dialog::onSaveClicked);
+    connect(mDocument, &ScenarioDocument::noticed, this, &Dialog::updateNotice);
+    connect(mNotice, &NoticeBar::reloadClicked, this, &Dialog::reload);
     for (QWidget* widget : mForm->editors())
         widget->installEventFilter(this);
 }

@@ -17,6 +17,7 @@ namespace TutorialEditor {
 class FormArea;
 class Lookups;
 class Model;
+class NoticeBar;
 class ScenarioDocument;
 class StepForm;
 class StepHistory;
@@ -165,6 +166,10 @@ private:
     // Points the overlay at the step in the form; x, y: kNoCoordinate for none.
     void pointIndicator(int x, int y) const;
 
+    // Tells, or not any more, what others did to the file.
+    void updateNotice();
+    void tellNotice();
+
     // History.
     void showStep(TutorialItem* item);
     void onStepChanged(TutorialEditor::TutorialItem* item, TutorialEditor::StepField field);
@@ -195,6 +200,7 @@ private:
     FormArea* mFormArea = nullptr;
     QPushButton* mAddField = nullptr;
     QPushButton* mSave = nullptr;
+    NoticeBar* mNotice = nullptr;
 
     TutorialItem* mItem = nullptr; // in the form; the model owns it
     StepFields mFields; // what the form held after the last load or rebuild

@@ -7,6 +7,7 @@
 #include "editor/model/model.h"
 #include "editor/model/treeview.h"
 #include "editor/model/tutorialitem.h"
+#include "editor/noticebar.h"
 
 #include <QElapsedTimer>
 
@@ -87,4 +88,6 @@ void Dialog::markModified(bool isModified)
     setWindowModified(false);
     setWindowTitle(isModified ? title + mark : title);
     setWindowModified(isModified);
+    if (!mNotice->isHidden())
+        tellNotice();
 }

@@ -6,6 +6,7 @@
 #include "editor/manager.h"
 #include "editor/model/model.h"
 #include "editor/model/tutorialitem.h"
+#include "editor/noticebar.h"
 #include "editor/questions.h"
 #include "editor/scenario/debuglog.h"
 #include "editor/scenario/scenariowriter.h"
@@ -136,6 +137,20 @@ void Dialog::onSaveClicked()
 {
     EDITOR_DEBUG;
     checkSave(false);
+}
+
+void Dialog::updateNotice()
+{
+    if (mDocument->notice() == ScenarioDocument::NothingNew)
+        mNotice->hide();
+    else
+        tellNotice();
+}
+
+void Dialog::tellNotice()
+{
+    const bool canReload = mDocument->notice() == ScenarioDocument::ReadableFile;
+    mNotice->tell(noticeText(*mDocument, isWindowModified()), canReload && !isWindowModified());
 }
 
 void Dialog::reject()

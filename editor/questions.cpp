@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLocale>
 
 using namespace TutorialEditor;
@@ -33,6 +34,9 @@ void setUp(QMessageBox* box, QMessageBox::StandardButtons buttons)
 
 QMessageBox::StandardButton answerOf(QMessageBox* box)
 {
+    // The box's own format is not that of its small print.
+    for (QLabel* label : box->findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box->exec());
 }
 
@@ -113,6 +117,28 @@ QMessageBox::StandardButton TutorialEditor::askToReplace(
     if (differing)
         box.button(QMessageBox::Retry)->setText(Dialog::tr("&Reload"));
     return answerOf(&box);
+}
+
+QString TutorialEditor::noticeText(const ScenarioDocument& document, bool hasChanges)
+{
+    const QString name = fileName(document.path());
+    switch (document.notice()) {
+    case ScenarioDocument::NothingNew:
+        break;
+    case ScenarioDocument::ReadableFile:
+        return hasChanges
+            ? Dialog::tr("%1 was changed by another program. The changes here are not "
+                         "saved; Save asks which ones to keep.")
+                  .arg(name)
+            : Dialog::tr("%1 was changed by another program.").arg(name);
+    case ScenarioDocument::UnreadableFile:
+        return Dialog::tr("%1 was changed by another program, and cannot be read now.").arg(name);
+    case ScenarioDocument::NoFile:
+        return Dialog::tr("%1 is no file now.").arg(name);
+    case ScenarioDocument::FileGone:
+        return Dialog::tr("%1 was removed or renamed. Save writes it again.").arg(name);
+    }
+    return QString();
 }
 
 void TutorialEditor::tellNotSaved(const ScenarioDocument& document)

@@ -24,6 +24,9 @@ QMessageBox::StandardButton askToSave(const ScenarioDocument& document, bool wit
 QMessageBox::StandardButton askToReplace(
     const ScenarioDocument& document, const DiskFile& disk, const QJsonArray& steps);
 
+// What was noticed of the file. hasChanges: whether there are unsaved ones.
+QString noticeText(const ScenarioDocument& document, bool hasChanges);
+
 // Why the last save() wrote nothing, unless the author knows already.
 void tellNotSaved(const ScenarioDocument& document);
 

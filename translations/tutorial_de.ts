@@ -290,6 +290,22 @@ Geändert: %2
         <source>Recovery</source>
         <translation>Wiederherstellung</translation>
     </message>
+    <message>
+        <source>%1 was changed by another program. The changes here are not saved; Save asks which ones to keep.</source>
+        <translation>%1 wurde von einem anderen Programm geändert. Die Änderungen hier sind nicht gespeichert; „Speichern“ fragt, welche bleiben sollen.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and cannot be read now.</source>
+        <translation>%1 wurde von einem anderen Programm geändert und kann jetzt nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 was removed or renamed. Save writes it again.</source>
+        <translation>%1 wurde entfernt oder umbenannt. „Speichern“ schreibt sie neu.</translation>
+    </message>
 </context>
 <context>
     <name>TutorialEditor::Item</name>
@@ -372,6 +388,29 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
     <message>
         <source>unknown icon: </source>
         <translation>unbekanntes Symbol: </translation>
+    </message>
+</context>
+<context>
+    <name>TutorialEditor::NoticeBar</name>
+    <message>
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Loads what the file holds now</source>
+        <translation>Lädt, was die Datei jetzt enthält</translation>
+    </message>
+    <message>
+        <source>Hi&amp;de</source>
+        <translation>&amp;Ausblenden</translation>
+    </message>
+    <message>
+        <source>Hides this line until something else happens</source>
+        <translation>Blendet diese Zeile aus, bis wieder etwas geschieht</translation>
     </message>
 </context>
 <context>

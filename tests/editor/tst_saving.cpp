@@ -3,6 +3,7 @@
 
 #include "tests/support/modalboxes.h"
 
+#include <QLabel>
 #include <QPushButton>
 
 using namespace TutorialEditor;
@@ -20,10 +21,17 @@ void clickSave(const OpenScenario& scenario)
     QTest::mouseClick(scenario.widget<QPushButton>("save"), Qt::LeftButton);
 }
 
+// Nothing is taken for markup.
+void expectPlain(const QWidget* box)
+{
+    for (const QLabel* label : box->findChildren<QLabel*>())
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+}
+
 // What a box says in small print.
 void expectMore(QMessageBox* box, const QString& text)
 {
-    QCOMPARE(box->textFormat(), Qt::PlainText);
+    expectPlain(box);
     QVERIFY2(box->informativeText().contains(text), qPrintable(box->informativeText()));
 }
 
@@ -37,6 +45,9 @@ private slots:
     void asksAboutAnotherFile_data();
     void asksAboutAnotherFile();
     void tellsWhatWasNotReadWhole();
+    void showsMarkupAsItIs();
+    void offersToReload();
+    void tellsOfAChangeBesideUnsavedOnes();
 };
 
 void tst_Saving::asksAboutAnotherFile_data()
@@ -95,6 +106,65 @@ void tst_Saving::tellsWhatWasNotReadWhole()
     QVERIFY(boxes.isDone());
     QVERIFY(scenario.fileText().contains("\"x\": 7"_s));
     QCOMPARE(textOf(kept), text);
+}
+
+void tst_Saving::showsMarkupAsItIs()
+{
+    ModalBoxes boxes(QMessageBox::Ok, expectPlain);
+    const OpenScenario scenario("var scenario = [\n{\"hint\": \"<b>a</b><br>\" x}\n];"_s);
+    QVERIFY(boxes.isDone());
+    QVERIFY2(boxes.seen().first().contains("<b>a</b><br>"_s), qPrintable(boxes.seen().first()));
+}
+
+void tst_Saving::offersToReload()
+{
+    OpenScenario scenario(scenarioText("a b c"_s));
+    scenario.select({1});
+    auto* notice = scenario.widget<QWidget>("notice");
+    QVERIFY(notice->isHidden());
+    scenario.write(scenarioText("a x b"_s));
+    QTRY_VERIFY(notice->isVisible());
+    expectPlain(notice);
+    QCOMPARE(scenario.widget<QLabel>("noticeText")->text(),
+        "scenario.js was changed by another program."_s);
+    QTest::mouseClick(scenario.widget<QPushButton>("noticeReload"), Qt::LeftButton);
+    QVERIFY(notice->isHidden());
+    QCOMPARE(scenario.rows(), "a|x|b|<>"_s);
+    QCOMPARE(scenario.selectedRows(), "b"_s);
+    QVERIFY(scenario.dialog()->isSaved() && !scenario.dialog()->isWindowModified());
+    QTest::keyClick(scenario.tree(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(scenario.rows(), "a|b|c|<>"_s);
+    QVERIFY(!scenario.dialog()->isSaved() && scenario.dialog()->isWindowModified());
+    QTest::keyClick(scenario.tree(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(scenario.dialog()->isSaved() && !scenario.dialog()->isWindowModified());
+}
+
+void tst_Saving::tellsOfAChangeBesideUnsavedOnes()
+{
+    OpenScenario scenario(scenarioText("a b"_s));
+    auto* notice = scenario.widget<QWidget>("notice");
+    const auto* reload = scenario.widget<QPushButton>("noticeReload");
+    const auto* text = scenario.widget<QLabel>("noticeText");
+    scenario.select({1});
+    QTest::keyClick(scenario.tree(), Qt::Key_Delete);
+    scenario.write(scenarioText("c"_s));
+    QTRY_VERIFY(notice->isVisible());
+    QVERIFY2(text->text().endsWith("Save asks which ones to keep."_s), qPrintable(text->text()));
+    QVERIFY(reload->isHidden());
+    // The changes are gone, so that there is nothing to ask.
+    QTest::keyClick(scenario.tree(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!reload->isHidden());
+    QTest::mouseClick(scenario.widget<QPushButton>("noticeHide"), Qt::LeftButton);
+    QTest::keyClick(scenario.tree(), Qt::Key_Delete);
+    QVERIFY(notice->isHidden());
+    QVERIFY(QFile::remove(scenario.path()));
+    QTRY_COMPARE(text->text(), "scenario.js was removed or renamed. Save writes it again."_s);
+    QVERIFY(notice->isVisible() && reload->isHidden());
+    // Its own writing tells nothing.
+    ModalBoxes boxes(QMessageBox::Yes);
+    clickSave(scenario);
+    QVERIFY(boxes.isDone() && notice->isHidden());
+    QCOMPARE(scenario.fileText(), scenarioText("a"_s));
 }
 
 QTEST_MAIN(tst_Saving)
