@@ -17,21 +17,18 @@ namespace {
 // A learner who only passes by, or a window of the tutorial that takes the
 // activation for a moment, must not make the tutorial flicker.
 constexpr int kHideMs = 300;
-constexpr int kReclaimMs = 2000;
 
 } // namespace
 
 Session::Session(
     const QString& program, WindowRegistry& registry, const QStringList& arguments, QObject* parent)
-    : QObject(parent), mRegistry(registry), mObserver(registry), mTargets(targetWindows()),
+    : QObject(parent), mRegistry(registry), mObserver(registry), mActivation(registry), mTargets(targetWindows()),
       mPlayer(mObserver, mTargets), mLink(program, arguments)
 {
     connectRegistry();
     connectPlayer();
     connectLink();
 
-    mReclaimTimer.setInterval(kReclaimMs);
-    mReclaimTimer.setSingleShot(true);
     mHideTimer.setInterval(kHideMs);
     mHideTimer.setSingleShot(true);
     connect(&mHideTimer, &QTimer::timeout, this, [this] {
@@ -66,6 +63,7 @@ void Session::connectPlayer()
 void Session::connectLink()
 {
     connect(&mLink, &Link::connected, this, [this] {
+        mIsNew = true;
         if (const auto task = std::exchange(mWhenConnected, nullptr))
             task();
     });
@@ -157,9 +155,8 @@ void Session::onReceived(const QStringList& fields)
         return;
     mPlayer.onAnswer(fields.first());
     // The click may have taken the activation to the tutorial's button.
-    mReclaimTimer.start();
-    if (QGuiApplication::applicationState() != Qt::ApplicationActive)
-        activate();
+    mActivation.reclaim();
+    activate();
 }
 
 void Session::onApplicationStateChanged(Qt::ApplicationState state)
@@ -170,8 +167,6 @@ void Session::onApplicationStateChanged(Qt::ApplicationState state)
         return;
     }
     mHideTimer.start();
-    if (mReclaimTimer.isActive())
-        activate();
 }
 
 void Session::setMinimized(bool on)
@@ -189,16 +184,5 @@ void Session::setMinimized(bool on)
         sendPoint(*mPreview);
     } else if (const auto step = stepOnShow()) {
         sendStep(*step);
-    }
-}
-
-void Session::activate()
-{
-    const QList<EnumWindowKind>& stack = mRegistry.stack();
-    for (int i = stack.size() - 1; i >= 0; --i) {
-        if (stack.at(i) != Window_Popup) {
-            mRegistry.window(stack.at(i))->activateWindow();
-            return;
-        }
     }
 }

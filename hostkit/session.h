@@ -5,6 +5,7 @@
 #include "hostkit/core/player.h"
 #include "hostkit/link/link.h"
 #include "hostkit/targets/targetfollower.h"
+#include "hostkit/windows/activationkeeper.h"
 #include "hostkit/windows/controlobserver.h"
 
 #include <QObject>
@@ -68,7 +69,7 @@ public:
     // Without a running tutorial the message is dropped.
     void send(const QStringList& message) { mLink.send({message}); }
     // Brings the host's front window before the tutorial's windows.
-    void activate();
+    void activate() { mActivation.activate(); }
 
     // The screen point from which the offsets in this window count: where it
     // stands, or the main window while it is not open. The screen's own when
@@ -128,6 +129,7 @@ private:
 
     WindowRegistry& mRegistry;
     ControlObserver mObserver;
+    ActivationKeeper mActivation;
     TargetFollower mTargets;
     Player mPlayer;
     Link mLink;
@@ -140,15 +142,14 @@ private:
     std::optional<Step> mPreview;
     // "start" was sent, and no "stop" since.
     bool mStarted = false;
+    // The tutorial that is connected has not been started yet.
+    bool mIsNew = false;
     bool mMinimized = false;
     // The step was sent with the point of its target.
     bool mSentFollowed = false;
     int mRestarts = 0;
     int mRestartsLeft = 0;
     QTimer mHideTimer;
-    // While it runs, an activation that the tutorial's windows took is taken
-    // back.
-    QTimer mReclaimTimer;
 };
 
 } // namespace TutorialHost

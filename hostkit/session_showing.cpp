@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 // Where the arrow stands, and what is sent for it.
 
@@ -227,8 +228,11 @@ QVector<QStringList> Session::startMessages()
     }
     // The first start takes the activation; the author's may stay in the
     // editor.
-    if (mPlayer.isPlaying())
-        mReclaimTimer.start();
+    const bool isFirst = std::exchange(mIsNew, false);
+    if (mPlayer.isPlaying() && isFirst)
+        mActivation.reclaimWithKeys();
+    else if (mPlayer.isPlaying())
+        mActivation.reclaim();
     return messages;
 }
 

@@ -17,6 +17,13 @@ inline QString qtTranslationsPath()
 #endif
 }
 
+// What a filter of native events writes its result to.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+using NativeEventResult = qintptr;
+#else
+using NativeEventResult = long;
+#endif
+
 // The widgets that show the action. A template, so that a program without
 // widgets can include this.
 template <typename Action>
