@@ -2,6 +2,7 @@
 #include "editor/manager.h"
 
 #include "editor/dialog.h"
+#include "editor/document/openmark.h"
 #include "editor/document/recoverycopy.h"
 #include "editor/document/scenariodocument.h"
 #include "editor/questions.h"
@@ -9,6 +10,7 @@
 #include "editor/scenario/scenarioreader.h"
 #include "editor/scenario/scenariowriter.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 
 using namespace TutorialEditor;
@@ -24,7 +26,10 @@ QString titleOf(const QString& path)
 
 Manager* Manager::mInstance = nullptr;
 
-Manager::Manager() = default;
+Manager::Manager()
+{
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { mOpenMark.reset(); });
+}
 
 Manager::~Manager()
 {
@@ -34,6 +39,10 @@ Manager::~Manager()
 void Manager::setContents(const QString& path)
 {
     EDITOR_DEBUG_NUMBER(48) << path;
+    if (!mInstance)
+        mInstance = new Manager;
+    if (!mInstance->mayOpen(path))
+        return;
     Manager* manager = ensure();
     Dialog* dialog = manager->mDialog;
     manager->mPath = path;
@@ -108,6 +117,7 @@ void Manager::clearDialog()
     if (mDialog)
         mDialog->document()->discardUnsaved();
     mDialog = nullptr;
+    mOpenMark.reset();
 }
 
 void Manager::offerRecovery()
@@ -134,6 +144,21 @@ void Manager::offerRecovery()
             return;
         }
     }
+}
+
+bool Manager::mayOpen(const QString& path)
+{
+    if (mOpenMark && mOpenMark->isFor(path))
+        return true;
+    auto mark = std::make_unique<OpenMark>(path);
+    if (mark->hasOthers() && askToOpen(path) != QMessageBox::Yes) {
+        // What the author had given up for the other scenario stays.
+        if (mDialog)
+            mDialog->document()->noteChange();
+        return false;
+    }
+    mOpenMark = std::move(mark);
+    return true;
 }
 
 Manager* Manager::ensure()

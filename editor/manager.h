@@ -5,9 +5,12 @@
 #include <QPointer>
 #include <QString>
 
+#include <memory>
+
 namespace TutorialEditor {
 
 class Dialog;
+class OpenMark;
 
 // The one way into the authoring tool. Its static operations make the manager
 // and the dialog when there are none; a fresh dialog is empty, and not shown
@@ -21,7 +24,8 @@ public:
 
     ~Manager() override;
 
-    // Opens a scenario file, without a question about the one that is open.
+    // Opens a scenario file, without a question about the one that is open. When
+    // another process has it open the author is asked, and may cancel it.
     static void setContents(const QString& path);
     // Writes the scenario to the file that was opened last, after a question when
     // someone else has changed that. json: the list of steps in file form. False
@@ -50,8 +54,12 @@ private:
     static Manager* ensure();
     // Offers the author what was not saved of the scenario when a process ended.
     void offerRecovery();
+    // Marks the file as open here. False when it is open elsewhere, and the author
+    // does not want it then.
+    bool mayOpen(const QString& path);
 
     QPointer<Dialog> mDialog;
+    std::unique_ptr<OpenMark> mOpenMark; // none without a dialog
     QString mPath; // also while there is no dialog
 };
 

@@ -164,6 +164,17 @@ void TutorialEditor::tellUnreadable(const ScenarioDocument::SaveReport& report)
         text + QLatin1String("\n\n") + errorText(report.problems), QMessageBox::Ok);
 }
 
+QMessageBox::StandardButton TutorialEditor::askToOpen(const QString& path)
+{
+    QMessageBox box(QMessageBox::Warning, Manager::tr("In use"),
+        Manager::tr("%1 is open in another tool.\n\n"
+                    "When both save, the second one is asked what to do.")
+            .arg(QDir::toNativeSeparators(path)));
+    setUp(&box, QMessageBox::Yes | QMessageBox::Cancel);
+    box.button(QMessageBox::Yes)->setText(Manager::tr("&Open anyway"));
+    return answerOf(&box);
+}
+
 QMessageBox::StandardButton TutorialEditor::askToRecover(
     const ScenarioDocument& document, const QDateTime& copied)
 {

@@ -33,6 +33,9 @@ void tellNotSaved(const ScenarioDocument& document);
 // What was saved but cannot be read again.
 void tellUnreadable(const ScenarioDocument::SaveReport& report);
 
+// Yes to open a scenario file that another process has open, or Cancel.
+QMessageBox::StandardButton askToOpen(const QString& path);
+
 // Yes, Discard, or anything else for later. copied: when the changes were kept.
 QMessageBox::StandardButton askToRecover(const ScenarioDocument& document, const QDateTime& copied);
 

@@ -366,6 +366,22 @@ Sollen die Änderungen wiederhergestellt werden?</translation>
         <source>The former file was kept as %1.</source>
         <translation>Die vorige Datei wurde als %1 aufgehoben.</translation>
     </message>
+    <message>
+        <source>In use</source>
+        <translation>In Gebrauch</translation>
+    </message>
+    <message>
+        <source>%1 is open in another tool.
+
+When both save, the second one is asked what to do.</source>
+        <translation>%1 ist in einem anderen Werkzeug geöffnet.
+
+Wenn beide speichern, wird das zweite gefragt, was geschehen soll.</translation>
+    </message>
+    <message>
+        <source>&amp;Open anyway</source>
+        <translation>&amp;Trotzdem öffnen</translation>
+    </message>
 </context>
 <context>
     <name>TutorialEditor::Model</name>

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "editor/document/datafolder.h"
+#include "editor/document/openmark.h"
 #include "editor/document/recoverycopy.h"
 #include "editor/document/scenariodocument.h"
 #include "editor/document/stepdifference.h"
@@ -14,6 +16,8 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace TutorialEditor;
 
@@ -133,6 +137,7 @@ private slots:
     void replacesNothingThatIsNotKept();
     void agreementIsForOneFile();
     void noticesWhatOthersDo();
+    void markIsOfALivingProcess();
     void toolsThatSaveAtOnceLoseNothing();
     void countsDifferences_data();
     void countsDifferences();
@@ -415,6 +420,38 @@ void tst_Document::noticesWhatOthersDo()
     QTRY_COMPARE(other.document.notice(), Document::ReadableFile);
     QVERIFY(QFile::remove(kept("x"_s)));
     QTRY_COMPARE(other.document.notice(), Document::NothingNew);
+}
+
+void tst_Document::markIsOfALivingProcess()
+{
+    write(path(), textOf("a"_s));
+    const QString link = path() + "-link"_s;
+    QVERIFY(QFile::link(path(), link));
+    int ready[2];
+    QCOMPARE(pipe(ready), 0);
+    const pid_t other = fork();
+    if (other == 0) {
+        const OpenMark mark(path());
+        if (::write(ready[1], "", 1) == 1)
+            pause();
+        _exit(1);
+    }
+    char byte = 0;
+    QCOMPARE(::read(ready[0], &byte, 1), ssize_t(1));
+    {
+        const OpenMark mark(link);
+        QVERIFY(mark.isFor(path()) && !mark.isFor(kept()));
+        QVERIFY(mark.hasOthers());
+        QVERIFY(!OpenMark(kept()).hasOthers());
+    }
+    kill(other, SIGKILL);
+    waitpid(other, nullptr, 0);
+    close(ready[0]);
+    close(ready[1]);
+    QVERIFY(QFile::remove(link));
+    QVERIFY(!OpenMark(path()).hasOthers());
+    const QString marks = dataFolder("locks"_s);
+    QCOMPARE(QDir(marks).entryList({"*open-*"_s}), QStringList());
 }
 
 void tst_Document::toolsThatSaveAtOnceLoseNothing()

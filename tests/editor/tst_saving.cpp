@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "openscenario.h"
 
+#include "editor/document/openmark.h"
+#include "editor/document/scenariodocument.h"
 #include "tests/support/modalboxes.h"
 
 #include <QLabel>
@@ -48,6 +50,7 @@ private slots:
     void showsMarkupAsItIs();
     void offersToReload();
     void tellsOfAChangeBesideUnsavedOnes();
+    void tellsThatAnotherToolHasItOpen();
 };
 
 void tst_Saving::asksAboutAnotherFile_data()
@@ -165,6 +168,31 @@ void tst_Saving::tellsOfAChangeBesideUnsavedOnes()
     clickSave(scenario);
     QVERIFY(boxes.isDone() && notice->isHidden());
     QCOMPARE(scenario.fileText(), scenarioText("a"_s));
+}
+
+void tst_Saving::tellsThatAnotherToolHasItOpen()
+{
+    OpenScenario scenario(scenarioText("a"_s));
+    const QString other = scenario.path() + ".<b>js"_s;
+    QVERIFY(QFile::copy(scenario.path(), other));
+    QVERIFY(OpenMark(scenario.path()).hasOthers());
+    // Its own mark is none of another tool.
+    Manager::setContents(scenario.path());
+    {
+        const OpenMark mark(other);
+        ModalBoxes boxes({{QMessageBox::Cancel, expectPlain}, {QMessageBox::Yes, nullptr}});
+        Manager::setContents(other);
+        QCOMPARE(scenario.dialog()->document()->path(), scenario.path());
+        QVERIFY(OpenMark(scenario.path()).hasOthers());
+        Manager::setContents(other);
+        QVERIFY(boxes.isDone());
+        QVERIFY2(boxes.seen().first().contains(other), qPrintable(boxes.seen().first()));
+        QCOMPARE(scenario.dialog()->document()->path(), other);
+    }
+    QVERIFY(OpenMark(other).hasOthers());
+    QVERIFY(!OpenMark(scenario.path()).hasOthers());
+    scenario.dialog()->close();
+    QVERIFY(!OpenMark(other).hasOthers());
 }
 
 QTEST_MAIN(tst_Saving)
