@@ -32,6 +32,8 @@ struct Arguments {
     QString edited;
     QString screenshots;
     bool autoplay = false;
+    bool small = false;
+    bool closed = false;
     int minutes = 0;
 };
 
@@ -88,7 +90,12 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
         QStringLiteral("DIR"));
     const QCommandLineOption minutes(QStringLiteral("minutes"),
         QStringLiteral("With --autoplay: play again and again for so long."), QStringLiteral("N"));
-    parser.addOptions({help, language, tutorial, play, autoplay, edit, screenshots, minutes});
+    const QCommandLineOption small(
+        QStringLiteral("small"), QStringLiteral("Begin with the window at its smallest."));
+    const QCommandLineOption closed(
+        QStringLiteral("closed"), QStringLiteral("Begin with the panel closed."));
+    parser.addOptions(
+        {help, language, tutorial, play, autoplay, edit, screenshots, minutes, small, closed});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return complain(parser.errorText(), kWrongUsage);
@@ -120,6 +127,8 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     arguments->tutorial = parser.value(tutorial);
     arguments->screenshots = parser.value(screenshots);
     arguments->autoplay = parser.isSet(autoplay);
+    arguments->small = parser.isSet(small);
+    arguments->closed = parser.isSet(closed);
     arguments->edited = parser.value(edit);
     if (parser.isSet(edit) && !QFileInfo(arguments->edited).isFile())
         return complain(
@@ -185,7 +194,11 @@ int main(int argc, char** argv)
     // The menu's own action is over by then.
     QObject::connect(&window, &MainWindow::recordRequested, &authoring, &Authoring::recordCondition,
         Qt::QueuedConnection);
+    if (arguments.closed)
+        window.findChild<QWidget*>(QStringLiteral("panelDock"))->hide();
     window.show();
+    if (arguments.small)
+        window.resize(window.minimumSizeHint());
 
     if (arguments.autoplay) {
 #ifdef DEMO_AUTOPLAY
@@ -200,6 +213,12 @@ int main(int argc, char** argv)
                 QCoreApplication::exit(completed ? 0 : kFailed);
             },
             Qt::QueuedConnection);
+        // It would be played by its x and y, and perhaps only here.
+        QObject::connect(&session, &Session::targetMissing, &application, [](const Step& step) {
+            tell(QStringLiteral("failed: there is no “%1” for %2")
+                     .arg(step.target, step.pathText()));
+            QCoreApplication::exit(kFailed);
+        });
         autoplay.start(arguments.scenario);
         return QApplication::exec();
 #else

@@ -5,6 +5,7 @@
 #include "hostkit/windows/windowregistry.h"
 
 #include <QActionGroup>
+#include <QDockWidget>
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScrollArea>
@@ -207,7 +208,13 @@ void MainWindow::makeCentre()
     auto* row = new QHBoxLayout(centre);
     row->setContentsMargins(0, 0, 8, 0);
     row->setSpacing(4);
-    row->addWidget(newLeftPanel());
+    auto* dock = new QDockWidget(tr("Panel"));
+    dock->setObjectName(QStringLiteral("panelDock"));
+    // It is closed and opened in the menu alone.
+    dock->setTitleBarWidget(new QWidget);
+    dock->setWidget(newLeftPanel());
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    findChild<QMenu*>(QStringLiteral("viewMenu"))->addAction(dock->toggleViewAction());
     row->addWidget(newMapArea());
     setCentralWidget(centre);
 }

@@ -16,7 +16,7 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("<b>Click</b> the map in the corner. Here the arrow points up and the hint stands on its left."),
             "icon": "click",
-            "target": "mapArea@0.92,0.04",
+            "target": "Map@0.945,0.076",
             "x": 1089,
             "y": 108
         },
@@ -25,7 +25,7 @@ var scenario = [
             "followWindow": "MainWindow",
             "hint": qsTr("<b>Double-click</b> near the right edge."),
             "icon": "doubleClick",
-            "target": "mapArea@0.95,0.6",
+            "target": "Map@0.98,0.655",
             "x": 1121,
             "y": 460
         },

@@ -168,6 +168,10 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Panel</source>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
         <source>There is no data “%1”.</source>
         <translation>Es gibt keine Daten „%1“.</translation>
     </message>

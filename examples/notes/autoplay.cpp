@@ -30,7 +30,13 @@ int main(int argc, char** argv)
     TutorialHost::Autoplay autoplay(host, {arguments.value(2)});
     QObject::connect(&autoplay, &TutorialHost::Autoplay::progress, &window,
         [&out](const QString& line) { out << line << Qt::endl; });
+    bool hasTargets = true;
+    QObject::connect(&host, &TutorialHost::Host::targetMissing, &window,
+        [&](const QString& target, const QList<int>&) {
+            out << "nothing is called " << target << Qt::endl;
+            hasTargets = false;
+        });
     if (!autoplay.play(scenario))
         out << autoplay.error() << Qt::endl;
-    return problems.isEmpty() && autoplay.error().isEmpty() ? 0 : 1;
+    return problems.isEmpty() && hasTargets && autoplay.error().isEmpty() ? 0 : 1;
 }
