@@ -11,6 +11,8 @@ using namespace TutorialEditor;
 
 namespace {
 
+constexpr int kMargin = 3; // pixels
+
 QPushButton* createButton(const char* name, const QString& text, const QString& description)
 {
     auto* button = new QPushButton(text);
@@ -43,6 +45,9 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), mText(new QLabel)
     buttons->addWidget(mReload);
     buttons->addWidget(hideButton);
     auto* layout = new QVBoxLayout(this);
+    // The tool is small, and its other parts go on being of use.
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(kMargin);
     layout->addWidget(mText);
     layout->addLayout(buttons);
     hide();
@@ -54,6 +59,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), mText(new QLabel)
 void NoticeBar::tell(const QString& text, bool withReload)
 {
     mText->setText(text);
+    mText->setToolTip(text.toHtmlEscaped());
     setAccessibleDescription(text);
     mReload->setVisible(withReload);
     show();

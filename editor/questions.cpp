@@ -127,16 +127,14 @@ QString TutorialEditor::noticeText(const ScenarioDocument& document, bool hasCha
         break;
     case ScenarioDocument::ReadableFile:
         return hasChanges
-            ? Dialog::tr("%1 was changed by another program. The changes here are not "
-                         "saved; Save asks which ones to keep.")
-                  .arg(name)
-            : Dialog::tr("%1 was changed by another program.").arg(name);
+            ? Dialog::tr("%1 has changed on disk. Save asks which changes to keep.").arg(name)
+            : Dialog::tr("%1 has changed on disk.").arg(name);
     case ScenarioDocument::UnreadableFile:
-        return Dialog::tr("%1 was changed by another program, and cannot be read now.").arg(name);
+        return Dialog::tr("%1 has changed on disk, and cannot be read.").arg(name);
     case ScenarioDocument::NoFile:
         return Dialog::tr("%1 is no file now.").arg(name);
     case ScenarioDocument::FileGone:
-        return Dialog::tr("%1 was removed or renamed. Save writes it again.").arg(name);
+        return Dialog::tr("%1 is gone. Save writes it again.").arg(name);
     }
     return QString();
 }

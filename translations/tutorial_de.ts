@@ -291,20 +291,20 @@ Geändert: %2
         <translation>Wiederherstellung</translation>
     </message>
     <message>
-        <source>%1 was changed by another program. The changes here are not saved; Save asks which ones to keep.</source>
-        <translation>%1 wurde von einem anderen Programm geändert. Die Änderungen hier sind nicht gespeichert; „Speichern“ fragt, welche bleiben sollen.</translation>
+        <source>%1 has changed on disk. Save asks which changes to keep.</source>
+        <translation>%1 hat sich auf der Platte geändert. „Speichern“ fragt, welche Änderungen bleiben sollen.</translation>
     </message>
     <message>
-        <source>%1 was changed by another program.</source>
-        <translation>%1 wurde von einem anderen Programm geändert.</translation>
+        <source>%1 has changed on disk.</source>
+        <translation>%1 hat sich auf der Platte geändert.</translation>
     </message>
     <message>
-        <source>%1 was changed by another program, and cannot be read now.</source>
-        <translation>%1 wurde von einem anderen Programm geändert und kann jetzt nicht gelesen werden.</translation>
+        <source>%1 has changed on disk, and cannot be read.</source>
+        <translation>%1 hat sich auf der Platte geändert und kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>%1 was removed or renamed. Save writes it again.</source>
-        <translation>%1 wurde entfernt oder umbenannt. „Speichern“ schreibt sie neu.</translation>
+        <source>%1 is gone. Save writes it again.</source>
+        <translation>%1 ist nicht mehr da. „Speichern“ schreibt sie neu.</translation>
     </message>
 </context>
 <context>

@@ -51,6 +51,8 @@ private slots:
     void offersToReload();
     void tellsOfAChangeBesideUnsavedOnes();
     void tellsThatAnotherToolHasItOpen();
+    void nothingIsTakenBackBelowAQuestion();
+    void historyIsOfOneScenario();
 };
 
 void tst_Saving::asksAboutAnotherFile_data()
@@ -128,8 +130,7 @@ void tst_Saving::offersToReload()
     scenario.write(scenarioText("a x b"_s));
     QTRY_VERIFY(notice->isVisible());
     expectPlain(notice);
-    QCOMPARE(scenario.widget<QLabel>("noticeText")->text(),
-        "scenario.js was changed by another program."_s);
+    QCOMPARE(scenario.widget<QLabel>("noticeText")->text(), "scenario.js has changed on disk."_s);
     QTest::mouseClick(scenario.widget<QPushButton>("noticeReload"), Qt::LeftButton);
     QVERIFY(notice->isHidden());
     QCOMPARE(scenario.rows(), "a|x|b|<>"_s);
@@ -152,7 +153,7 @@ void tst_Saving::tellsOfAChangeBesideUnsavedOnes()
     QTest::keyClick(scenario.tree(), Qt::Key_Delete);
     scenario.write(scenarioText("c"_s));
     QTRY_VERIFY(notice->isVisible());
-    QVERIFY2(text->text().endsWith("Save asks which ones to keep."_s), qPrintable(text->text()));
+    QVERIFY2(text->text().endsWith("Save asks which changes to keep."_s), qPrintable(text->text()));
     QVERIFY(reload->isHidden());
     // The changes are gone, so that there is nothing to ask.
     QTest::keyClick(scenario.tree(), Qt::Key_Z, Qt::ControlModifier);
@@ -161,7 +162,7 @@ void tst_Saving::tellsOfAChangeBesideUnsavedOnes()
     QTest::keyClick(scenario.tree(), Qt::Key_Delete);
     QVERIFY(notice->isHidden());
     QVERIFY(QFile::remove(scenario.path()));
-    QTRY_COMPARE(text->text(), "scenario.js was removed or renamed. Save writes it again."_s);
+    QTRY_COMPARE(text->text(), "scenario.js is gone. Save writes it again."_s);
     QVERIFY(notice->isVisible() && reload->isHidden());
     // Its own writing tells nothing.
     ModalBoxes boxes(QMessageBox::Yes);
@@ -197,6 +198,40 @@ void tst_Saving::tellsThatAnotherToolHasItOpen()
     QVERIFY(!OpenMark(scenario.path()).hasOthers());
     scenario.dialog()->close();
     QVERIFY(!OpenMark(other).hasOthers());
+}
+
+void tst_Saving::nothingIsTakenBackBelowAQuestion()
+{
+    OpenScenario scenario(scenarioText("a b c"_s));
+    scenario.select({1});
+    QTest::keyClick(scenario.tree(), Qt::Key_Delete);
+    ModalBoxes boxes(QMessageBox::Yes,
+        [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier); });
+    clickSave(scenario);
+    QVERIFY(boxes.isDone());
+    QCOMPARE(scenario.fileText(), scenarioText("a c"_s));
+    QVERIFY(scenario.dialog()->isSaved() && !scenario.dialog()->isWindowModified());
+    // It is an act still.
+    QTest::keyClick(scenario.tree(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(scenario.rows(), "a|b|c|<>"_s);
+    QVERIFY(!scenario.dialog()->isSaved() && scenario.dialog()->isWindowModified());
+}
+
+void tst_Saving::historyIsOfOneScenario()
+{
+    OpenScenario scenario(scenarioText("a b c"_s));
+    const QString other = scenario.path() + ".other.js"_s;
+    QVERIFY(QFile::copy(scenario.path(), other));
+    scenario.select({0}, {1});
+    QTest::keyClick(scenario.tree(), Qt::Key_Delete);
+    QTest::keyClick(scenario.tree(), Qt::Key_Delete);
+    QTest::keyClick(scenario.tree(), Qt::Key_Z, Qt::ControlModifier);
+    Manager::setContents(other);
+    for (const auto modifiers :
+        {Qt::KeyboardModifiers(Qt::ControlModifier), Qt::ControlModifier | Qt::ShiftModifier})
+        QTest::keyClick(scenario.tree(), Qt::Key_Z, modifiers);
+    QCOMPARE(scenario.rows(), "a|b|c|<>"_s);
+    QVERIFY(scenario.dialog()->isSaved() && !scenario.dialog()->isWindowModified());
 }
 
 QTEST_MAIN(tst_Saving)
