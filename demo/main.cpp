@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "demo/mainwindow.h"
-#include "hostkit/authoring.h"
-#include "hostkit/session.h"
-#include "hostkit/windows/windowregistry.h"
 #include "tutorial/process/platform.h"
 #include "tutorial/process/terminationsignals.h"
+
 #ifdef DEMO_AUTOPLAY
-#include "hostkit/autoplay/autoplay.h"
+#include <TutorialHost/Autoplay>
 #endif
+#include <TutorialHost/Host>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -22,8 +21,7 @@ namespace {
 
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
-// As a shell reports it; the number of the signal is added.
-constexpr int kEndedBySignal = 128;
+constexpr int kEndedBySignal = 128; // and the signal's number, as a shell reports it
 
 struct Arguments {
     QString language;
@@ -76,7 +74,8 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
                                                         : QStringLiteral("en"));
     const QCommandLineOption tutorial(QStringLiteral("tutorial"),
         QStringLiteral("The tutorial's executable, if not the one beside this program."),
-        QStringLiteral("PROGRAM"));
+        QStringLiteral("PROGRAM"),
+        QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial"));
     const QCommandLineOption play(QStringLiteral("play"),
         QStringLiteral("Play this scenario: a file, or “first-steps” or “all-conditions”."),
         QStringLiteral("FILE"));
@@ -142,6 +141,34 @@ std::optional<int> parse(int argc, char** argv, Arguments* arguments)
     return {};
 }
 
+// All that makes the editor a host.
+void addTutorials(Host& host, MainWindow& window)
+{
+    for (const char* name : {"NewProject", "MapProperties", "MessageBox", "EventEditorMain",
+             "DatabaseMain", "Options", "FileDialog", "About"})
+        host.addWindow(QLatin1String(name), QLatin1String(name));
+    host.addWindow(QStringLiteral("leftPanel"), QStringLiteral("MapEditLeftPanelItem"));
+    host.addWindow(QStringLiteral("mapTree"), QStringLiteral("MapEditTreeBox"));
+    host.addCommand(QStringLiteral("presetData"),
+        [&window](const QString& name) { return window.loadPreset(name); });
+    QObject::connect(&host, &Host::notice, &window, [&window](const QString& line) {
+        tell(line);
+        window.showNotice(line);
+    });
+    QObject::connect(&host, &Host::finished, &window, [&window](Result result) {
+        if (result == Result::Completed)
+            window.showNotice(MainWindow::tr("You have finished the tutorial."));
+    });
+    QObject::connect(&window, &MainWindow::tutorialRequested, &host,
+        [&host](const QString& scenario) { host.play(scenarioPath(scenario)); });
+    QObject::connect(&window, &MainWindow::tutorialStopRequested, &host, &Host::stop);
+    QObject::connect(&window, &MainWindow::editRequested, &host, &Host::edit);
+    QObject::connect(&window, &MainWindow::newTutorialRequested, &host, &Host::create);
+    // The menu's own action is over by then.
+    QObject::connect(
+        &window, &MainWindow::recordRequested, &host, &Host::recordCondition, Qt::QueuedConnection);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -159,41 +186,12 @@ int main(int argc, char** argv)
     QTranslator translator;
     if (translator.load(QStringLiteral(":/translations/tutorial-demo_%1").arg(arguments.language)))
         QCoreApplication::installTranslator(&translator);
-    const QString program = arguments.tutorial.isEmpty()
-        ? QCoreApplication::applicationDirPath() + QStringLiteral("/tutorial")
-        : arguments.tutorial;
 
-    WindowRegistry registry;
-    MainWindow window(registry);
-    Session session(program, registry);
-    QObject::connect(&session, &Session::presetDataRequested, &window, [&](const QString& name) {
-        if (!window.loadPreset(name))
-            window.showNotice(MainWindow::tr("There is no data “%1”.").arg(name));
-    });
-    const auto report = [&](const QString& line) {
-        tell(line);
-        window.showNotice(line);
-    };
-    for (const auto text : {&Session::notice, &Session::failed})
-        QObject::connect(&session, text, &window, report);
-    QObject::connect(&session, &Session::finished, &window,
-        [&] { window.showNotice(MainWindow::tr("You have finished the tutorial.")); });
-    QObject::connect(&window, &MainWindow::tutorialRequested, &session,
-        [&](const QString& scenario) { session.play(scenarioPath(scenario)); });
-    Authoring authoring(session, registry);
-    QObject::connect(&authoring, &Authoring::notice, &window, &MainWindow::showNotice);
-    QObject::connect(&window, &MainWindow::tutorialStopRequested, &authoring, &Authoring::stop);
-    QObject::connect(&window, &MainWindow::editRequested, &authoring, &Authoring::edit);
-    QObject::connect(
-        &window, &MainWindow::newTutorialRequested, &authoring, [&](const QString& path) {
-            if (Authoring::writeStarter(path))
-                authoring.edit(path);
-            else
-                report(MainWindow::tr("“%1” cannot be written.").arg(path));
-        });
-    // The menu's own action is over by then.
-    QObject::connect(&window, &MainWindow::recordRequested, &authoring, &Authoring::recordCondition,
-        Qt::QueuedConnection);
+    MainWindow window;
+    Options options;
+    options.program = arguments.tutorial;
+    Host host(&window, options);
+    addTutorials(host, window);
     if (arguments.closed)
         window.findChild<QWidget*>(QStringLiteral("panelDock"))->hide();
     window.show();
@@ -202,7 +200,7 @@ int main(int argc, char** argv)
 
     if (arguments.autoplay) {
 #ifdef DEMO_AUTOPLAY
-        Autoplay autoplay(session, {arguments.screenshots, arguments.minutes});
+        Autoplay autoplay(host, {arguments.screenshots, arguments.minutes});
         QObject::connect(&autoplay, &Autoplay::progress, &window,
             [](const QString& line) { QTextStream(stdout) << line << '\n'; });
         QObject::connect(
@@ -214,9 +212,8 @@ int main(int argc, char** argv)
             },
             Qt::QueuedConnection);
         // It would be played by its x and y, and perhaps only here.
-        QObject::connect(&session, &Session::targetMissing, &application, [](const Step& step) {
-            tell(QStringLiteral("failed: there is no “%1” for %2")
-                     .arg(step.target, step.pathText()));
+        QObject::connect(&host, &Host::targetMissing, &application, [](const QString& target) {
+            tell(QStringLiteral("failed: there is no “%1”").arg(target));
             QCoreApplication::exit(kFailed);
         });
         autoplay.start(arguments.scenario);
@@ -228,8 +225,8 @@ int main(int argc, char** argv)
 #endif
     }
     if (!arguments.scenario.isEmpty())
-        session.play(arguments.scenario);
+        host.play(arguments.scenario);
     if (!arguments.edited.isEmpty())
-        authoring.edit(arguments.edited);
+        host.edit(arguments.edited);
     return QApplication::exec();
 }

@@ -2,7 +2,6 @@
 #include "demo/mainwindow.h"
 
 #include "demo/artwork.h"
-#include "hostkit/windows/windowregistry.h"
 
 #include <QActionGroup>
 #include <QDockWidget>
@@ -11,9 +10,6 @@
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QToolBar>
-
-using namespace Tutorial;
-using namespace TutorialHost;
 
 namespace {
 
@@ -35,8 +31,7 @@ QLabel* newHeading(const QString& text)
 
 } // namespace
 
-MainWindow::MainWindow(WindowRegistry& registry)
-    : mRegistry(registry), mMapView(new MapView), mCellLabel(new QLabel)
+MainWindow::MainWindow() : mMapView(new MapView), mCellLabel(new QLabel)
 {
     setWindowIcon(Artwork::applicationIcon());
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -46,7 +41,6 @@ MainWindow::MainWindow(WindowRegistry& registry)
     makeToolBar();
     makeCentre();
     statusBar()->addPermanentWidget(mCellLabel);
-    mRegistry.add(Window_MainWindow, this);
 
     setOptions(mOptions);
     loadPreset(QStringLiteral("meadow"));
@@ -77,8 +71,10 @@ void MainWindow::makeActions()
 {
     newAction("New Project", tr("&New Project…"), &MainWindow::openNewProject)
         ->setShortcut(QKeySequence::New);
-    newAction("New Tutorial", tr("New &Tutorial…"), &MainWindow::openNewTutorial);
-    newAction("Edit Tutorial", tr("&Edit Tutorial…"), &MainWindow::openEditTutorial);
+    newAction("New Tutorial", tr("New &Tutorial…"),
+        [this] { askForScenario(QFileDialog::AcceptSave, &MainWindow::newTutorialRequested); });
+    newAction("Edit Tutorial", tr("&Edit Tutorial…"),
+        [this] { askForScenario(QFileDialog::AcceptOpen, &MainWindow::editRequested); });
     newAction("Exit", tr("E&xit"), &QWidget::close)->setShortcut(QKeySequence::Quit);
     newAction("Undo", tr("&Undo"), [this] { mUndoStack.undo(); })->setShortcut(QKeySequence::Undo);
     newAction("Redo", tr("&Redo"), [this] { mUndoStack.redo(); })->setShortcut(QKeySequence::Redo);
@@ -187,7 +183,6 @@ QMenu* MainWindow::newMenu(const QList<const char*>& actionNames)
 {
     auto* menu = new QMenu(this);
     fillBar(menu, actionNames);
-    mRegistry.add(Window_Popup, menu);
     return menu;
 }
 
@@ -273,8 +268,6 @@ QWidget* MainWindow::newLeftPanel()
     layout->addWidget(newHeading(tr("Events on this map")));
     layout->addWidget(mEventList, 1);
 
-    mRegistry.add(Window_MapEditLeftPanelItem, panel);
-    mRegistry.add(Window_MapEditTreeBox, mMapTree);
     return panel;
 }
 

@@ -4,7 +4,6 @@
 #include "demo/dialogs.h"
 #include "demo/mapview.h"
 #include "demo/project.h"
-#include "tutorial/vocabulary/vocabulary.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -15,18 +14,13 @@
 #include <QTreeWidget>
 #include <QUndoStack>
 
-namespace TutorialHost {
-class WindowRegistry;
-} // namespace TutorialHost
-
 // The small map editor that the tutorials explain. Its actions carry their
 // names of the host-action list as object names.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    // registry: gets to know every window; outlives this one.
-    explicit MainWindow(TutorialHost::WindowRegistry& registry);
+    MainWindow();
 
     // Loads the data of this name; false when there is none.
     bool loadPreset(const QString& name);
@@ -72,12 +66,12 @@ private:
     void tellCell(const QPoint& cell);
     void onDrawn(const QVector<Tile>& before);
 
-    // Opens the dialog as this kind of window; accepted is called with it.
+    // Opens the dialog as the window of this name; accepted is called with it.
     template <typename Dialog, typename Accepted>
-    void open(Tutorial::EnumWindowKind kind, Dialog* dialog, Accepted accepted);
+    void open(const char* name, Dialog* dialog, Accepted accepted);
     // Asks for a scenario file, existing or new, and emits the signal with it.
-    void askForScenario(const QString& title, QFileDialog::AcceptMode mode,
-        void (MainWindow::*requested)(const QString& path));
+    using ScenarioSignal = void (MainWindow::*)(const QString& path);
+    void askForScenario(QFileDialog::AcceptMode mode, ScenarioSignal requested);
     void openNewProject();
     void openNewMap();
     void openEditMap();
@@ -87,10 +81,7 @@ private:
     void openDatabase();
     void openOptions();
     void openAbout();
-    void openNewTutorial();
-    void openEditTutorial();
 
-    TutorialHost::WindowRegistry& mRegistry;
     Project mProject;
     int mMapIndex = 0;
     int mZoom = 100;

@@ -2,9 +2,7 @@
 #include "demo/artwork.h"
 #include "demo/databasedialog.h"
 #include "demo/mainwindow.h"
-#include "hostkit/windows/windowregistry.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -13,9 +11,6 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
-
-using namespace Tutorial;
-using namespace TutorialHost;
 
 namespace {
 
@@ -143,23 +138,23 @@ void MainWindow::onDrawn(const QVector<Tile>& before)
 }
 
 template <typename Dialog, typename Accepted>
-void MainWindow::open(EnumWindowKind kind, Dialog* dialog, Accepted accepted)
+void MainWindow::open(const char* name, Dialog* dialog, Accepted accepted)
 {
-    mRegistry.add(kind, dialog);
+    dialog->setObjectName(QLatin1String(name));
     connect(dialog, &QDialog::accepted, this, [dialog, accepted] { accepted(*dialog); });
     dialog->open();
 }
 
 void MainWindow::openNewProject()
 {
-    open(Window_NewProject, new NewProjectDialog(this),
+    open("NewProject", new NewProjectDialog(this),
         [this](const NewProjectDialog& dialog) { setProject(dialog.project()); });
 }
 
 void MainWindow::openNewMap()
 {
     const GameMap blank = GameMap::blank(tr("New map"), {28, 19}, Tile::Grass);
-    open(Window_MapProperties, new MapDialog(tr("New Map"), blank, this),
+    open("MapProperties", new MapDialog(tr("New Map"), blank, this),
         [this](const MapDialog& dialog) {
             mProject.maps << dialog.map();
             updateTree(mProject.maps.size() - 1);
@@ -168,7 +163,7 @@ void MainWindow::openNewMap()
 
 void MainWindow::openEditMap()
 {
-    open(Window_MapProperties, new MapDialog(tr("Edit Map"), map(), this),
+    open("MapProperties", new MapDialog(tr("Edit Map"), map(), this),
         [this](const MapDialog& dialog) {
             map() = dialog.map();
             if (!map().contains(mProject.start))
@@ -185,7 +180,7 @@ void MainWindow::openDeleteMap()
     question->addButton(tr("Delete"), QMessageBox::AcceptRole);
     question->addButton(tr("Keep"), QMessageBox::RejectRole)->setObjectName(QStringLiteral("keep"));
     question->setAttribute(Qt::WA_DeleteOnClose);
-    open(Window_MessageBox, question, [this](const QMessageBox&) {
+    open("MessageBox", question, [this](const QMessageBox&) {
         mProject.maps.remove(mMapIndex);
         updateTree(qMin(mMapIndex, mProject.maps.size() - 1));
     });
@@ -198,14 +193,13 @@ void MainWindow::openEvent(const QPoint& cell)
     event.cell = cell;
     if (index >= 0)
         event = map().events.at(index);
-    open(Window_EventEditorMain, new EventDialog(event, this),
-        [this, index](const EventDialog& dialog) {
-            if (index >= 0)
-                map().events[index] = dialog.edited();
-            else
-                map().events << dialog.edited();
-            showMap(mMapIndex);
-        });
+    open("EventEditorMain", new EventDialog(event, this), [this, index](const EventDialog& dialog) {
+        if (index >= 0)
+            map().events[index] = dialog.edited();
+        else
+            map().events << dialog.edited();
+        showMap(mMapIndex);
+    });
 }
 
 void MainWindow::deleteEvent()
@@ -219,23 +213,22 @@ void MainWindow::deleteEvent()
 
 void MainWindow::openDatabase()
 {
-    open(Window_DatabaseMain, new DatabaseDialog(mProject, this),
-        [this](const DatabaseDialog& dialog) {
-            mProject.heroes = dialog.heroes();
-            mProject.items = dialog.items();
-        });
+    open("DatabaseMain", new DatabaseDialog(mProject, this), [this](const DatabaseDialog& dialog) {
+        mProject.heroes = dialog.heroes();
+        mProject.items = dialog.items();
+    });
 }
 
 void MainWindow::openOptions()
 {
-    open(Window_Options, new OptionsDialog(mOptions, this),
+    open("Options", new OptionsDialog(mOptions, this),
         [this](const OptionsDialog& dialog) { setOptions(dialog.options()); });
 }
 
-void MainWindow::askForScenario(const QString& title, QFileDialog::AcceptMode mode,
-    void (MainWindow::*requested)(const QString& path))
+void MainWindow::askForScenario(QFileDialog::AcceptMode mode, ScenarioSignal requested)
 {
-    auto* dialog = new QFileDialog(this, title);
+    const bool isNew = mode == QFileDialog::AcceptSave;
+    auto* dialog = new QFileDialog(this, isNew ? tr("New Tutorial") : tr("Edit Tutorial"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // The desktop's own dialog would be a window that nobody knows of.
     dialog->setOption(QFileDialog::DontUseNativeDialog);
@@ -243,21 +236,10 @@ void MainWindow::askForScenario(const QString& title, QFileDialog::AcceptMode mo
     dialog->setDefaultSuffix(QStringLiteral("js"));
     dialog->setAcceptMode(mode);
     // Before it writes over a file, the dialog asks.
-    dialog->setFileMode(
-        mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    open(Window_FileDialog, dialog, [this, requested](const QFileDialog& asked) {
+    dialog->setFileMode(isNew ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    open("FileDialog", dialog, [this, requested](const QFileDialog& asked) {
         emit(this->*requested)(asked.selectedFiles().constFirst());
     });
-}
-
-void MainWindow::openNewTutorial()
-{
-    askForScenario(tr("New Tutorial"), QFileDialog::AcceptSave, &MainWindow::newTutorialRequested);
-}
-
-void MainWindow::openEditTutorial()
-{
-    askForScenario(tr("Edit Tutorial"), QFileDialog::AcceptOpen, &MainWindow::editRequested);
 }
 
 void MainWindow::openAbout()
@@ -266,5 +248,5 @@ void MainWindow::openAbout()
         tr("A small map editor that shows how a host drives the tutorial."), QMessageBox::Ok, this);
     about->setIconPixmap(Artwork::applicationIcon().pixmap(48));
     about->setAttribute(Qt::WA_DeleteOnClose);
-    open(Window_About, about, [](const QMessageBox&) {});
+    open("About", about, [](const QMessageBox&) {});
 }

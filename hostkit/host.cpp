@@ -262,6 +262,21 @@ void Host::edit(const QString& scenarioPath)
     d->authoring.edit(scenarioPath);
 }
 
+bool Host::create(const QString& scenarioPath)
+{
+    if (!Authoring::writeStarter(scenarioPath)) {
+        emit notice(tr("“%1” cannot be written.").arg(scenarioPath));
+        return false;
+    }
+    edit(scenarioPath);
+    return true;
+}
+
+void Host::recordCondition()
+{
+    d->authoring.recordCondition();
+}
+
 void Host::stop()
 {
     d->authoring.stop();

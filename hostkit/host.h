@@ -93,6 +93,12 @@ public:
     bool play(const QString& scenarioPath, const QString& fromLabel = {});
     // Opens the scenario in the authoring tool; what is played is stopped.
     void edit(const QString& scenarioPath);
+    // The same with a new scenario of one step, which takes the place of what is
+    // there. False, with a notice, when it cannot be written.
+    bool create(const QString& scenarioPath);
+    // Has the author's next action in this program recorded as the condition of
+    // the step at work. Behind a menu's entry call it when the menu is gone.
+    void recordCondition();
     // Ends what is played; without a tutorial nothing happens.
     void stop();
 

@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>There is no data “%1”.</source>
-        <translation>Es gibt keine Daten „%1“.</translation>
+        <translation type="vanished">Es gibt keine Daten „%1“.</translation>
     </message>
     <message>
         <source>You have finished the tutorial.</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>“%1” cannot be written.</source>
-        <translation>„%1“ kann nicht geschrieben werden.</translation>
+        <translation type="vanished">„%1“ kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>New &amp;Tutorial…</source>
@@ -647,6 +647,10 @@
     <message>
         <source>“%1” could not be done with “%2”.</source>
         <translation>„%1“ ließ sich mit „%2“ nicht ausführen.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>

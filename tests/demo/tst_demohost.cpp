@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "demo/mainwindow.h"
-#include "hostkit/windows/windowregistry.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QtTest>
-
-using namespace Tutorial;
-using namespace TutorialHost;
 
 Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 
@@ -39,13 +36,12 @@ void tst_DemoHost::asksBeforeItOverwrites()
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("lesson.js")));
     QVERIFY(!exists || file.open(QIODevice::WriteOnly));
-    WindowRegistry registry;
-    MainWindow window(registry);
+    MainWindow window;
     window.show();
     QSignalSpy requests(&window, &MainWindow::newTutorialRequested);
 
     window.findChild<QAction*>(QStringLiteral("New Tutorial"))->trigger();
-    auto* dialog = qobject_cast<QFileDialog*>(registry.window(Window_FileDialog));
+    auto* dialog = window.findChild<QFileDialog*>(QStringLiteral("FileDialog"));
     QVERIFY(dialog);
     dialog->setDirectory(folder.path());
     dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
