@@ -12,11 +12,36 @@
 
 #include <algorithm>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 using namespace TutorialEditor;
 
 namespace {
 
 constexpr qint64 kLargestFile = 256 * 1024 * 1024; // bytes
+
+// A pipe would be waited for, and a device may never end, also when they take the
+// place of a file at the last moment.
+bool openFile(QFile* file)
+{
+#ifdef Q_OS_UNIX
+    const int descriptor =
+        open(QFile::encodeName(file->fileName()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat status;
+    if (descriptor == -1)
+        return false;
+    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
+        return file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    close(descriptor);
+    return false;
+#else
+    return QFileInfo(*file).isFile() && file->open(QIODevice::ReadOnly);
+#endif
+}
 
 // Position of two characters that are side by side. Texts hold few that are
 // like the second one, so this is much faster than to walk; -1 for none.
@@ -123,9 +148,8 @@ QJsonArray parse(
 
 bool TutorialEditor::readScenarioBytes(const QString& path, QByteArray* bytes)
 {
-    // A pipe would be waited for, and a device may never end.
     QFile file(path);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestFile)
+    if (!openFile(&file) || file.size() > kLargestFile)
         return false;
     *bytes = file.readAll();
     return file.error() == QFile::NoError;

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <atomic>
 #include <cstdio>
 #include <functional>
 #include <sys/stat.h>
@@ -51,6 +52,7 @@ private slots:
     void noticesEachChangeOnce();
     void followsWhatTakesThePlace();
     void ownWritingIsNoChange();
+    void aPipeThatComesAndGoesIsNotWaitedFor();
 
 private:
     QString path() const { return mFolder->filePath("work/garden.js"_s); }
@@ -174,6 +176,30 @@ void tst_DiskWatch::ownWritingIsNoChange()
     QVERIFY(!spy.wait(kQuietMs));
     write(path(), "other");
     QVERIFY(spy.wait());
+}
+
+void tst_DiskWatch::aPipeThatComesAndGoesIsNotWaitedFor()
+{
+    const QByteArray name = QFile::encodeName(path());
+    std::atomic<bool> isDone{false};
+    const QScopedPointer<QThread> other(QThread::create([&] {
+        while (!isDone) {
+            mkfifo(name + ".pipe", 0600);
+            rename(name + ".pipe", name);
+            write(path() + ".new"_s, "other");
+            rename(name + ".new", name);
+        }
+    }));
+    other->start();
+    QElapsedTimer clock;
+    clock.start();
+    int files = 0;
+    int others = 0;
+    while ((files < 2000 || others < 2000) && clock.elapsed() < 20000)
+        ++(DiskFile::at(path()).isReadable() ? files : others);
+    isDone = true;
+    QVERIFY(other->wait());
+    QVERIFY2(files > 0 && others > 0, "nothing came and went");
 }
 
 QTEST_GUILESS_MAIN(tst_DiskWatch)
