@@ -237,9 +237,15 @@ void TutorialIndicator::timerEvent(QTimerEvent*)
         createTooltip();
 
     // A new hint's height moves the buttons also when the balloon stays.
+    if (mTooltip && !mHint.isEmpty() && textRoom() != mTextRoom) {
+        mTooltip->setText(mHint);
+        markHintChanged();
+    }
     const bool hintChanged = std::exchange(mHintChanged, false);
-    if (hintChanged && mTooltip)
-        mHintHeight = mTooltip->fitText();
+    if (hintChanged && mTooltip) {
+        mTextRoom = textRoom();
+        mHintHeight = mTooltip->fitText(mTextRoom);
+    }
     const bool moved = hintChanged || position != mMotion.current;
     if (moved && mTooltip)
         mTooltip->move(position);
@@ -284,6 +290,13 @@ void TutorialIndicator::answer(const QString& message)
 {
     if (mOwner)
         mOwner->send(message);
+}
+
+int TutorialIndicator::textRoom() const
+{
+    const QRect area = mOwner->hostRect();
+    const int room = TutorialTooltip::kTextRoom;
+    return area.isEmpty() ? room : std::min(room, area.height() - TutorialTooltip::kTextTop);
 }
 
 QPoint TutorialIndicator::buttonShift(const QPoint& position) const

@@ -91,6 +91,8 @@ private:
     void answer(const QString& message);
     // Next, Yes and No; null when there is no balloon.
     std::array<QPushButton*, 3> buttons() const { return {mNextButton, mYesButton, mNoButton}; }
+    // How high a text box may be, in pixels, so that the host's area holds it.
+    int textRoom() const;
     // How far the shown buttons stand from their place below the text, for a
     // balloon at this position.
     QPoint buttonShift(const QPoint& position) const;
@@ -104,6 +106,7 @@ private:
     Tutorial::EnumWindowKind mTargetWindowKind = Tutorial::WindowKindCount;
     QString mHint;
     int mHintHeight = 64;
+    int mTextRoom = 0; // that the hint was last laid out for
     QPushButton* mNextButton = nullptr;
     QPushButton* mYesButton = nullptr;
     QPushButton* mNoButton = nullptr;

@@ -11,9 +11,11 @@
 #include <QPainter>
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace {
 
-constexpr QRect kGeometry(0, 0, 640, 480);
+constexpr QRect kGeometry(0, 0, 640, TutorialTooltip::kTextTop + TutorialTooltip::kTextRoom);
 constexpr int kMirroredArrowLeft = 256; // px
 constexpr int kIconSize = 56; // px
 constexpr int kBounceRoom = 16; // px, the way the arrow dips
@@ -85,7 +87,7 @@ void TutorialTooltip::setText(const QString& text)
     if (!text.isEmpty())
         mText->setHint(text);
     mText->setVisible(!text.isEmpty());
-    announce(text.isEmpty() ? QString() : mText->toPlainText());
+    announce(text.isEmpty() ? QString() : mText->plainHint());
 }
 
 // A learner who does not see the hint is told it when it changes, and again on
@@ -108,8 +110,9 @@ void TutorialTooltip::placeText(bool flippedHorizontally)
     mText->move(flippedHorizontally ? 0 : mIndicator->arrow().width(), kTextTop);
 }
 
-int TutorialTooltip::fitText()
+int TutorialTooltip::fitText(int room)
 {
+    mText->fitInto(std::min(room, kTextRoom));
     const int height = static_cast<int>(mText->document()->size().height());
     mText->setFixedHeight(height);
     return height;

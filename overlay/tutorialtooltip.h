@@ -18,6 +18,7 @@ class TutorialTooltip : public QWidget {
 public:
     static constexpr int kTextTop = 56; // px, text box below the balloon's top
     static constexpr int kTextWidth = 256; // px
+    static constexpr int kTextRoom = 424; // px, the highest text box
     static constexpr QSize kButtonSize{64, 32};
     static constexpr Qt::WindowFlags kPaintedWindowFlags =
         Qt::WindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
@@ -34,8 +35,9 @@ public:
     void setText(const QString& text);
     // Moves the text box to the balloon's left edge, or back beside the arrow.
     void placeText(bool flippedHorizontally);
-    // Makes the text box as high as its text. Returns the height in pixels.
-    int fitText();
+    // Makes the text box as high as its text, and the text no higher than the
+    // balloon and the room, in pixels. Returns the height in pixels.
+    int fitText(int room);
 
     // The part of the balloon that the arrow and the icon change, in its own
     // pixels.

@@ -23,6 +23,7 @@ echo "| what | ours | floor | ours to floor | limit | kept |"
 echo "|---|---|---|---|---|---|"
 scripts/with-display.sh "$bin/bench_link" "$bin/tutorial" "$bin/bench_floor" || result=1
 scripts/with-display.sh "$bin/bench_dispatch" || result=1
+QT_QPA_PLATFORM=offscreen "$bin/bench_hint" || result=1
 QT_QPA_PLATFORM=offscreen "$bin/bench_editor" || result=1
 scripts/with-display.sh "$bin/bench_targets" || result=1
 scripts/with-display.sh "$bin/bench_flood" "$bin/tutorial" || result=1

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "overlay/hinttext.h"
 #include "overlay/overlayowner.h"
 #include "overlay/tutorialindicator.h"
 #include "overlay/tutoriallog.h"
@@ -17,18 +18,21 @@
 
 using namespace Tutorial;
 
+Q_DECLARE_METATYPE(HintText::Fit)
+
 namespace {
 
 class Owner : public OverlayOwner {
 public:
     bool isRunning() const override { return running; }
-    QRect hostRect() const override { return {0, 0, 1280, 800}; }
+    QRect hostRect() const override { return host; }
     QPoint getXy(EnumWindowKind) const override { return {}; }
     void send(const QString& message) override { sent << message; }
     void reorderWindow() override { calls << QStringLiteral("reorder"); }
     void updateVisibility() override { calls << QStringLiteral("visibility"); }
 
     bool running = true;
+    QRect host{0, 0, 1280, 800};
     QStringList sent;
     QStringList calls;
 };
@@ -100,6 +104,8 @@ private slots:
     void glideMovesBalloonAndButtons();
     void buttonsStayWithinReach();
     void hintSetsTheHeight();
+    void hintThatIsTooHighIsSetSmallerOrCut_data();
+    void hintThatIsTooHighIsSetSmallerOrCut();
     void hintShowsPicturesOutOfFiles();
     void iconIsDrawnWithoutAnArrow();
     void tipStandsOnItsPlaceAtEveryScale_data();
@@ -191,6 +197,58 @@ void tst_Indicator::hintSetsTheHeight()
     mIndicator->setHint(QString());
     QVERIFY(!text->isVisible());
     QCOMPARE(mIndicator->hintHeight(), height);
+}
+
+void tst_Indicator::hintThatIsTooHighIsSetSmallerOrCut_data()
+{
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<int>("areaHeight");
+    QTest::addColumn<HintText::Fit>("fit");
+    const QString pixels = QStringLiteral("<div style=\"font-size:%1px\">line</div>");
+    const auto lines = [](int count) {
+        return QStringLiteral("one<br>").repeated(count) + QStringLiteral("<i>end</i>");
+    };
+    const int line = QFontMetrics(QTextEdit().font()).lineSpacing();
+    QTest::newRow("fits") << lines(400 / line - 1) << 800 << HintText::Fit::Whole;
+    QTest::newRow("smaller") << lines(424 / line) << 800 << HintText::Fit::Smaller;
+    QTest::newRow("lines") << lines(60) << 800 << HintText::Fit::Cut;
+    QTest::newRow("low area") << lines(13) << 156 << HintText::Fit::Cut;
+    QTest::newRow("one word") << QString(200000, QLatin1Char('x')) << 800 << HintText::Fit::Cut;
+    QTest::newRow("invisible") << QString(20000, QChar(0x200b)) << 800 << HintText::Fit::Cut;
+    QTest::newRow("one high line") << pixels.arg(900) << 800 << HintText::Fit::Cut;
+    QTest::newRow("table") << QStringLiteral("<table><tr><td>%1</td></tr></table>").arg(lines(60))
+                           << 800 << HintText::Fit::Cut;
+}
+
+void tst_Indicator::hintThatIsTooHighIsSetSmallerOrCut()
+{
+    QFETCH(QString, hint);
+    QFETCH(int, areaHeight);
+    QFETCH(HintText::Fit, fit);
+    auto* text = balloon()->findChild<QTextEdit*>();
+    const QFont font = text->document()->defaultFont();
+    const int room = std::min(424, areaHeight - 56);
+    mOwner->host.setHeight(areaHeight);
+    mIndicator->setHint(hint);
+    QTRY_VERIFY(mIndicator->hintHeight() != 64);
+    QVERIFY(mIndicator->hintHeight() <= room);
+    QCOMPARE(text->height(), mIndicator->hintHeight());
+    QCOMPARE(text->document()->defaultFont() == font, fit == HintText::Fit::Whole);
+    QCOMPARE(text->toPlainText().endsWith(QChar(0x2026)), fit == HintText::Fit::Cut);
+    QCOMPARE(HintText::fitOf(hint, 256, room), fit);
+    QTextDocument whole;
+    whole.setHtml(hint);
+    QCOMPARE(balloon()->accessibleDescription(), whole.toPlainText());
+
+    // The next hint is set as if this one had not been there, and a larger area
+    // brings this one back.
+    if (areaHeight < 800) {
+        mOwner->host.setHeight(800);
+        QTRY_VERIFY(text->toPlainText() == whole.toPlainText());
+    }
+    mIndicator->setHint(QStringLiteral("short"));
+    QTRY_VERIFY(mIndicator->hintHeight() < 64);
+    QCOMPARE(text->document()->defaultFont(), font);
 }
 
 // One that has no end used to stop the program, or to fill the memory.
