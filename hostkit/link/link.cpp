@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/link/link.h"
 
+#include "tutorial/vocabulary/qtcompat.h"
+
 #include <QUuid>
 
 using namespace TutorialHost;
@@ -103,6 +105,12 @@ void Link::start()
     const QString rules = QStringLiteral("QT_LOGGING_RULES");
     environment.insert(
         rules, QStringLiteral("*.debug=false;") + environment.value(rules, QString()));
+    // Another Qt, or a host that asks for it in its code, would scale in another
+    // way, and points would not agree.
+    const QString scaling = QStringLiteral("QT_ENABLE_HIGHDPI_SCALING");
+    if (!environment.contains(scaling)
+        && !environment.contains(QStringLiteral("QT_AUTO_SCREEN_SCALE_FACTOR")))
+        environment.insert(scaling, QString::number(int(scalesByDensity())));
     mProcess.setProcessEnvironment(environment);
     mProcess.start(mProgram, QStringList(id) + mArguments);
 }

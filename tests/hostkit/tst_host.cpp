@@ -33,6 +33,8 @@ private slots:
     void tellsWhyThereIsNoTutorial();
     void startsALostTutorialAgain();
     void stopsBeforeItHasBegun();
+    void givesTheTutorialItsScaleAndSilence_data();
+    void givesTheTutorialItsScaleAndSilence();
     void checksAgainstTheProgram_data();
     void checksAgainstTheProgram();
 
@@ -191,6 +193,59 @@ void tst_Host::stopsBeforeItHasBegun()
     QCOMPARE(ends.first().first().value<Result>(), Result::Stopped);
     // It used to begin when the tutorial had connected after all.
     QVERIFY(!steps.wait(2000));
+}
+
+void tst_Host::givesTheTutorialItsScaleAndSilence_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QByteArray>("told");
+    QTest::newRow("nothing set") << QByteArray("QT_LOGGING_RULES") << QByteArray()
+                                 << QByteArray("QT_LOGGING_RULES=*.debug=false;\n");
+    QTest::newRow("the user's rules go over ours")
+        << QByteArray("QT_LOGGING_RULES") << QByteArray("qt.*=true")
+        << QByteArray("QT_LOGGING_RULES=*.debug=false;qt.*=true\n");
+    QTest::newRow("a factor") << QByteArray("QT_SCALE_FACTOR") << QByteArray("1.5")
+                              << QByteArray("QT_SCALE_FACTOR=1.5\n");
+    QTest::newRow("a factor a screen")
+        << QByteArray("QT_SCREEN_SCALE_FACTORS") << QByteArray("a=2;b=1")
+        << QByteArray("QT_SCREEN_SCALE_FACTORS=a=2;b=1\n");
+    // It used to be scaled as its own Qt would have it.
+    QTest::newRow("by density, or not, as the host is")
+        << QByteArray() << QByteArray()
+        << QByteArray("QT_ENABLE_HIGHDPI_SCALING=" + QByteArray::number(QT_VERSION_MAJOR / 6))
+            + '\n';
+    QTest::newRow("what the user asks for")
+        << QByteArray("QT_ENABLE_HIGHDPI_SCALING") << QByteArray("7")
+        << QByteArray("QT_ENABLE_HIGHDPI_SCALING=7\n");
+}
+
+void tst_Host::givesTheTutorialItsScaleAndSilence()
+{
+    QFETCH(QByteArray, variable);
+    QFETCH(QByteArray, value);
+    QFETCH(QByteArray, told);
+    const QByteArray before = qgetenv(variable.constData());
+    if (!value.isEmpty())
+        qputenv(variable.constData(), value);
+    QWidget window;
+    Options options;
+    options.restartAfterCrash = false;
+    options.program = write(QStringLiteral("env"),
+        QStringLiteral("#!/bin/sh\n[ \"$1\" = --version ] && exec echo tutorial %1\n"
+                       "env > \"%2/environment\"\n")
+            .arg(QStringLiteral(PROJECT_VERSION), mFolder.path())
+            .toUtf8());
+    Host host(&window, options);
+    QSignalSpy ends(&host, &Host::finished);
+    QVERIFY(host.play(write(QStringLiteral("one.js"), kOneStep)));
+    QTRY_COMPARE_WITH_TIMEOUT(ends.size(), 1, 20000);
+    if (!value.isEmpty())
+        before.isNull() ? qunsetenv(variable.constData()) : qputenv(variable.constData(), before);
+    QFile file(mFolder.filePath(QStringLiteral("environment")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray environment = '\n' + file.readAll();
+    QVERIFY2(environment.contains('\n' + told), environment);
 }
 
 void tst_Host::checksAgainstTheProgram_data()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QString>
 
@@ -23,6 +24,16 @@ using NativeEventResult = qintptr;
 #else
 using NativeEventResult = long;
 #endif
+
+// Whether the program scales its windows by the screens' own density.
+inline bool scalesByDensity()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return true;
+#else
+    return QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling);
+#endif
+}
 
 // The widgets that show the action. A template, so that a program without
 // widgets can include this.
