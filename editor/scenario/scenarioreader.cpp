@@ -28,6 +28,9 @@ constexpr qint64 kLargestFile = 256 * 1024 * 1024; // bytes
 // place of a file at the last moment.
 bool openFile(QFile* file)
 {
+    // What is built into a program is a file to Qt alone.
+    if (!QFileInfo(*file).isNativePath())
+        return file->open(QIODevice::ReadOnly);
 #ifdef Q_OS_UNIX
     const int descriptor =
         open(QFile::encodeName(file->fileName()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
