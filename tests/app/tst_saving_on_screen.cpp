@@ -40,6 +40,13 @@ QByteArray read(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// Presses a key in a window, which may have been shown just now.
+void pressIn(const QString& window, const QString& key)
+{
+    xdotool({QStringLiteral("windowactivate"), QStringLiteral("--sync"), window});
+    press(key);
+}
+
 } // namespace
 
 // What becomes of a scenario file that other programs work on as well, with the
@@ -119,17 +126,17 @@ void tst_SavingOnScreen::clickSave()
 void tst_SavingOnScreen::answer(const QString& title, const QString& key)
 {
     QVERIFY(waitForWindow(title));
-    press(key);
+    pressIn(windowTitled(title), key);
 }
 
 void tst_SavingOnScreen::answerTheNextOne(const QString& key)
 {
     const QString first = windowTitled(kQuestion);
-    press(QStringLiteral("alt+y"));
+    pressIn(first, QStringLiteral("alt+y"));
     QString next;
     QTRY_VERIFY_WITH_TIMEOUT(
         !(next = windowTitled(kQuestion)).isEmpty() && next != first, kDeadlineMs);
-    press(key);
+    pressIn(next, key);
 }
 
 void tst_SavingOnScreen::overwritesWhenTheAuthorAgrees()
@@ -155,7 +162,7 @@ void tst_SavingOnScreen::reloadsInsteadOfSaving()
     QCOMPARE(read(mPath), scenario(2));
     // Taken back, it is to be saved again.
     QVERIFY(waitForWindow(kQuestion, false));
-    press(QStringLiteral("ctrl+z"));
+    pressIn(windowTitled(kTool), QStringLiteral("ctrl+z"));
     clickSave();
     answer(kQuestion, QStringLiteral("alt+y"));
     QTRY_VERIFY_WITH_TIMEOUT(read(mPath).contains("\"x\": 7"), kDeadlineMs);
@@ -177,7 +184,7 @@ void tst_SavingOnScreen::writesAgainWhatIsGone()
     clickSave();
     QVERIFY(waitForWindow(kQuestion));
     QVERIFY(QFile::remove(mPath));
-    press(QStringLiteral("alt+y"));
+    answer(kQuestion, QStringLiteral("alt+y"));
     QTRY_VERIFY_WITH_TIMEOUT(read(mPath).contains("\"x\": 7"), kDeadlineMs);
     QVERIFY(!QFile::exists(kept()));
 }

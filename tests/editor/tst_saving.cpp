@@ -212,6 +212,8 @@ void tst_Saving::nothingIsTakenBackBelowAQuestion()
     QCOMPARE(scenario.fileText(), scenarioText("a c"_s));
     QVERIFY(scenario.dialog()->isSaved() && !scenario.dialog()->isWindowModified());
     // It is an act still.
+    scenario.dialog()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(scenario.dialog()));
     QTest::keyClick(scenario.tree(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(scenario.rows(), "a|b|c|<>"_s);
     QVERIFY(!scenario.dialog()->isSaved() && scenario.dialog()->isWindowModified());
