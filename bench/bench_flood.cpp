@@ -263,6 +263,7 @@ int main(int argc, char** argv)
                            .arg(step(i).value(QLatin1String("hint")).toString()));
         translations << QStringLiteral("untr|hint%1|Press the <b>button</b> no. %1").arg(i);
     }
+    answers.expect(QStringLiteral("editor|opened|") + path);
     guest.send(
         {QStringLiteral("start|0|0|1280|800"), QStringLiteral("indicator|update|0|0|0|Press|1|0"),
             QStringLiteral("indicator|updateXy|300|200"), QStringLiteral("editor|open|") + path});

@@ -85,6 +85,8 @@ public:
     void focusActionIndexList(const QList<int>& list);
     void setCoordinates(int x, int y);
     void setCondition(const QStringList& condition);
+    void setTarget(const QString& target);
+    void setTargets(const QStringList& targets);
     void untrCallback(const QString& first, const QString& second);
 
     // A double click into the tree; the index is invalid beside all rows.
@@ -164,7 +166,9 @@ private:
     void requestHint(const QString& hint);
     void checkTreeBox() const;
     // Points the overlay at the step in the form; x, y: kNoCoordinate for none.
-    void pointIndicator(int x, int y) const;
+    void pointIndicator(int x, int y);
+    // Tells the host the target of the step in the form.
+    void tellTarget(const QString& target);
 
     // Tells, or not any more, what others did to the file.
     void updateNotice();
@@ -206,6 +210,7 @@ private:
     StepFields mFields; // what the form held after the last load or rebuild
     ScenarioDocument* const mDocument;
     StepHistory* mHistory = nullptr;
+    bool mTargetTold = false; // of the step before, which had one
     Lookups* mComments = nullptr; // those of the form
     Lookups* mHints = nullptr;
     QTimer mCompare; // runs from an act on

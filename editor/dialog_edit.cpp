@@ -13,6 +13,13 @@
 
 using namespace TutorialEditor;
 
+namespace {
+
+// What a picked point changes: x and y, and the target with them.
+constexpr auto kPickedFields = static_cast<StepField>(int(XField) | int(YField));
+
+} // namespace
+
 void Dialog::onFieldChanged(
     const char* handler, const QString& text, StepField field, bool isTyping)
 {
@@ -148,23 +155,48 @@ void Dialog::checkTreeBox() const
             kind == Tutorial::Window_MapEditTreeBox);
 }
 
-void Dialog::pointIndicator(int x, int y) const
+void Dialog::pointIndicator(int x, int y)
 {
     if (!mItem || mItem->isGroup() || !TutorialManager::mInstance)
         return;
     const StepFields fields = mForm->fields();
+    tellTarget(fields.target);
     TutorialManager::mInstance->updateIndicator(x, y, Tutorial::getWindowKind(fields.followWindow),
         mForm->hintTranslation(), indicatorFlags(mFields), Tutorial::getIconKind(fields.icon));
+}
+
+void Dialog::tellTarget(const QString& target)
+{
+    if (!target.isEmpty() || mTargetTold)
+        TutorialManager::mInstance->sendEditor({QStringLiteral("target"), target});
+    mTargetTold = !target.isEmpty();
 }
 
 void Dialog::setCoordinates(int x, int y)
 {
     EDITOR_DEBUG << x << y;
+    mHistory->endTyping();
     // The step moves once.
     mForm->setPosition(x, y);
     if (mItem && !mItem->isGroup())
         mForm->showFields(XField | YField);
-    onValueChanged(XField, false, tr("Picked Point"));
+    onValueChanged(kPickedFields, true, tr("Picked Point"));
+}
+
+void Dialog::setTarget(const QString& target)
+{
+    EDITOR_DEBUG << target;
+    mForm->setTarget(target);
+    if (mItem && !mItem->isGroup() && !target.isEmpty())
+        mForm->showFields(TargetField);
+    // With the point that came before it is one act.
+    onValueChanged(kPickedFields, true, tr("Picked Point"));
+    mHistory->endTyping();
+}
+
+void Dialog::setTargets(const QStringList& targets)
+{
+    mForm->setTargets(targets);
 }
 
 void Dialog::setCondition(const QStringList& condition)

@@ -10,6 +10,7 @@
 #include "editor/questions.h"
 #include "editor/scenario/debuglog.h"
 #include "editor/scenario/scenariowriter.h"
+#include "tutorial/runtime/tutorialmanager.h"
 
 #include <QCloseEvent>
 #include <QJsonArray>
@@ -166,6 +167,8 @@ void Dialog::closeEvent(QCloseEvent* event)
         return;
     }
     linkToEdit(nullptr);
+    if (TutorialManager::mInstance)
+        TutorialManager::mInstance->sendEditor({QStringLiteral("closed")});
     QSettings().setValue(QStringLiteral("TutorialEditor.geometry"), geometry());
     if (Manager::mInstance)
         Manager::mInstance->clearDialog();

@@ -39,6 +39,8 @@ void openScenario(const QString& path)
 {
     if (!Manager::mInstance || Manager::mInstance->checkSave(true))
         Manager::setContents(path);
+    if (TutorialManager::mInstance)
+        TutorialManager::mInstance->sendEditor({QStringLiteral("opened"), Manager::path()});
 }
 
 bool isWaitingForAuthor()
@@ -86,6 +88,10 @@ std::function<void()> HostMessages::editorTask(const QStringList& fields) const
         return [path = arguments.first()] { openScenario(path); };
     if (name == QLatin1String("focus") && !numbers.isEmpty())
         return [numbers] { Manager::focusActionIndexList(numbers); };
+    if (name == QLatin1String("target") && arguments.size() == 1)
+        return [target = arguments.first()] { Manager::setTarget(target); };
+    if (name == QLatin1String("names") && arguments.first() == QLatin1String("targets"))
+        return [targets = arguments.mid(1)] { Manager::setTargets(targets); };
     if (name == QLatin1String("coordinates") && numbers.size() == 2)
         return [numbers] { Manager::setCoordinates(numbers.first(), numbers.last()); };
     if (name == QLatin1String("condition") && arguments.size() <= 1 + kMaximumParameters

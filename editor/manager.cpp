@@ -84,6 +84,21 @@ void Manager::setCoordinates(int x, int y)
     ensure()->mDialog->setCoordinates(x, y);
 }
 
+QString Manager::path()
+{
+    return mInstance ? mInstance->mPath : QString();
+}
+
+void Manager::setTarget(const QString& target)
+{
+    ensure()->mDialog->setTarget(target);
+}
+
+void Manager::setTargets(const QStringList& targets)
+{
+    ensure()->mDialog->setTargets(targets);
+}
+
 void Manager::untrCallback(const QString& first, const QString& second)
 {
     ensure()->mDialog->untrCallback(first, second);

@@ -27,6 +27,8 @@ public:
     // Opens a scenario file, without a question about the one that is open. When
     // another process has it open the author is asked, and may cancel it.
     static void setContents(const QString& path);
+    // That of the open scenario; empty when none was opened.
+    static QString path();
     // Writes the scenario to the file that was opened last, after a question when
     // someone else has changed that. json: the list of steps in file form. False
     // when it was not written.
@@ -35,6 +37,10 @@ public:
     static void focusActionIndexList(const QList<int>& actionIndexList);
     // The point, in pixels, that the author picked for the step in the form.
     static void setCoordinates(int x, int y);
+    // The name of what the author picked there; empty when it has none.
+    static void setTarget(const QString& target);
+    // The names of targets that the host has now.
+    static void setTargets(const QStringList& targets);
     // The host's answer to a look-up: the key that was sent, and the text.
     static void untrCallback(const QString& first, const QString& second);
     // The condition that was recorded: its kind's name and its parameters.

@@ -304,7 +304,8 @@ void StepForm::focusField(StepField field)
         widget = box ? static_cast<QWidget*>(box) : mParameters[std::size_t(parameter)];
     }
     for (const Field& candidate : qAsConst(mFields)) {
-        if (candidate.field == field)
+        // Of several fields the first.
+        if (!widget && candidate.field & field)
             widget = candidate.widgets.first();
     }
     if (widget && !widget->isHidden())

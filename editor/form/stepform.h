@@ -39,6 +39,9 @@ public:
     // The same without an announcement, of the fields that something else than
     // the author's typing gives. x, y: pixels.
     void setPosition(int x, int y);
+    void setTarget(const QString& target);
+    // The targets that are offered while one is typed.
+    void setTargets(const QStringList& targets);
     // condition: the kind's name and its parameters; missing ones get their
     // defaults when the kind is a new one.
     void setCondition(const QStringList& condition);

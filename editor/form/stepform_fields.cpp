@@ -4,9 +4,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStringListModel>
 #include <QTextDocument>
 #include <QTextEdit>
 
@@ -109,6 +111,25 @@ void StepForm::setPosition(int x, int y)
     const QSignalBlocker yBlocker(mY);
     mX->setText(QString::number(x));
     mY->setText(QString::number(y));
+}
+
+void StepForm::setTarget(const QString& target)
+{
+    const QSignalBlocker blocker(mTarget);
+    mTarget->setText(target);
+}
+
+void StepForm::setTargets(const QStringList& targets)
+{
+    auto* completer = mTarget->completer();
+    if (!completer) {
+        completer = new QCompleter(mTarget);
+        completer->setModel(new QStringListModel(completer));
+        completer->setCaseSensitivity(Qt::CaseInsensitive);
+        completer->setFilterMode(Qt::MatchContains);
+        mTarget->setCompleter(completer);
+    }
+    static_cast<QStringListModel*>(completer->model())->setStringList(targets);
 }
 
 void StepForm::setCondition(const QStringList& condition)

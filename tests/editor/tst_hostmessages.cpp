@@ -2,10 +2,13 @@
 #include "openscenario.h"
 
 #include "editor/document/recoverycopy.h"
+#include "editor/history/stephistory.h"
 #include "editor/hostmessages.h"
 #include "tests/support/modalboxes.h"
 #include "tutorial/runtime/tutorialmanager.h"
 
+#include <QCompleter>
+#include <QLineEdit>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QPushButton>
@@ -37,8 +40,19 @@ private slots:
     void opensOneAfterTheOther();
     void tooManyWaitForTheAuthor();
     void byeEndsAnOpenQuestion();
+    void targetGoesBothWays();
 
 private:
+    // What the tool has told the host since, one message an entry, fields with '|'.
+    QStringList told()
+    {
+        QStringList messages;
+        for (const QByteArray& packet : mHost->readAll().split('\0')) {
+            for (const QByteArray& message : packet.mid(packet.indexOf('\x02') + 1).split('\x02'))
+                messages << QString::fromUtf8(message).replace(QChar(0x01), QLatin1Char('|'));
+        }
+        return messages;
+    }
     void send(const QStringList& fields) { mHost->write(packet(fields)); }
 
     QLocalServer mServer;
@@ -129,8 +143,11 @@ void tst_HostMessages::opensOneAfterTheOther()
         send(open);
         QTest::qWait(200);
     });
+    told();
     send(open);
     QTRY_COMPARE(scenario.dialog()->windowTitle(), "second"_s);
+    QStringList messages;
+    QTRY_VERIFY((messages << told(), messages.contains("editor|opened|"_s + second)));
     QVERIFY2(boxes.isDone(), qPrintable(boxes.seen().join(QLatin1Char(10))));
     QCOMPARE(scenario.rows(), "a|<>"_s);
     QCOMPARE(scenario.fileText(), scenarioText("b"_s));
@@ -173,6 +190,50 @@ void tst_HostMessages::byeEndsAnOpenQuestion()
     Manager::mInstance->keepUnsaved();
     const QDir copies(RecoveryCopy::folder());
     QCOMPARE(copies.entryList({"*.json"_s}).size(), 1);
+}
+
+void tst_HostMessages::targetGoesBothWays()
+{
+    const QString target = "MainWindow/save"_s;
+    {
+        OpenScenario scenario(scenarioText("a b"_s));
+        QUndoStack* stack = scenario.dialog()->history()->stack();
+        scenario.select({0});
+        const auto jsonOf = [&] { return scenario.item({0})->json(); };
+        const QString before = jsonOf();
+        told();
+
+        // The point and its name are one act.
+        send({"editor"_s, "coordinates"_s, "5"_s, "6"_s});
+        send({"editor"_s, "target"_s, target});
+        QTRY_VERIFY(jsonOf().contains(target));
+        QCOMPARE(scenario.widget<QLineEdit>("target")->text(), target);
+        QVERIFY(scenario.widget<QLineEdit>("target")->isVisible());
+        QStringList messages;
+        const QString point = "indicator|updateXYFollowWindow|5|6|70"_s;
+        QTRY_VERIFY((messages << told(), messages.lastIndexOf(point) > 0));
+        const int named = int(messages.indexOf("editor|target|"_s + target));
+        QVERIFY2(named >= 0, qPrintable(messages.join(QLatin1Char(' '))));
+        QCOMPARE(messages.value(named + 1), point);
+        QCOMPARE(stack->count(), 1);
+        stack->undo();
+        QCOMPARE(jsonOf(), before);
+        stack->redo();
+        QVERIFY(jsonOf().contains(target));
+
+        // A point without a name takes the former name away.
+        send({"editor"_s, "coordinates"_s, "7"_s, "8"_s});
+        send({"editor"_s, "target"_s, QString()});
+        QTRY_VERIFY(!jsonOf().contains("target"_s));
+        QCOMPARE(stack->count(), 2);
+        QTRY_VERIFY((messages << told(), messages.contains("editor|target|"_s)));
+
+        send({"editor"_s, "names"_s, "targets"_s, target, "Other"_s});
+        QTRY_VERIFY(scenario.widget<QLineEdit>("target")->completer());
+        QCOMPARE(scenario.widget<QLineEdit>("target")->completer()->model()->rowCount(), 2);
+    }
+    QStringList messages;
+    QTRY_VERIFY((messages << told(), messages.contains("editor|closed"_s)));
 }
 
 int main(int argc, char** argv)

@@ -145,6 +145,11 @@ void TutorialManager::requestCoordinates()
     send(joined({QStringLiteral("coordinates"), QStringLiteral("request")}));
 }
 
+void TutorialManager::sendEditor(const QStringList& fields)
+{
+    send(joined(QStringList(QStringLiteral("editor")) + fields));
+}
+
 void TutorialManager::requestCheckMapEditTreeBox(bool followsTreeBox)
 {
     Q_UNUSED(followsTreeBox)

@@ -70,6 +70,8 @@ public:
     void requestUntr(const QString& first, const QString& second);
     // Asks the host to let the author pick a point.
     void requestCoordinates();
+    // Tells the host about the authoring tool: the message's fields after "editor".
+    void sendEditor(const QStringList& fields);
     // A hook: whether the step in the form follows the tree box.
     void requestCheckMapEditTreeBox(bool followsTreeBox);
 
