@@ -22,8 +22,8 @@ constexpr int kHideMs = 300;
 
 Session::Session(
     const QString& program, WindowRegistry& registry, const QStringList& arguments, QObject* parent)
-    : QObject(parent), mRegistry(registry), mObserver(registry), mActivation(registry), mTargets(targetWindows()),
-      mPlayer(mObserver, mTargets), mLink(program, arguments)
+    : QObject(parent), mRegistry(registry), mObserver(registry), mActivation(registry),
+      mTargets(targetWindows()), mPlayer(mObserver, mTargets), mLink(program, arguments)
 {
     connectRegistry();
     connectPlayer();

@@ -71,7 +71,8 @@ void tst_ScenarioReader::errors_data()
     row("where", "[{\"x\": 1}, {\"group\": [{\"x\": 1},\n{\"x\": 1 1}\n]}]",
         "json is not array (step 1,1, line 2, column 8)\n{\"x\": 1 1}\n       ^\n");
     row("qsTr open", "[{\n\"hint\": qsTr(\"a\"),\n\"comment\": qsTr(\"b\",\n}]",
-        "closeMarker(),\n) not found (l:2884): \n\"comment\": qsTr(\"b\",\n}] (step 0, line 3, column 20)");
+        "closeMarker(),\n) not found (l:2884): \n\"comment\": qsTr(\"b\",\n}] (step 0, line 3, "
+        "column 20)");
     row("CR LF", "[{\r\n\"hint\": qsTr(\"a\")\r\n}]",
         "closeMarker(),\n) not found (l:2884): [{\r\n\"hint\": qsTr(\"a\")\r\n}] (step 0, line "
         "2, ");
