@@ -7,7 +7,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
+#include <QContextMenuEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -219,12 +219,31 @@ bool StepForm::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn)
         emit fieldEntered();
+    auto* line = qobject_cast<QLineEdit*>(watched);
+    if (event->type() == QEvent::ContextMenu && line) {
+        showMenu(line, static_cast<QContextMenuEvent*>(event)->globalPos());
+        return true;
+    }
     // Scrolling the form must not change the box that comes below the cursor.
     const auto* box = qobject_cast<QComboBox*>(watched);
     if (event->type() != QEvent::Wheel || !box || box->hasFocus())
         return QWidget::eventFilter(watched, event);
     event->ignore();
     return true;
+}
+
+void StepForm::showMenu(QLineEdit* line, const QPoint& place)
+{
+    QMenu* menu = line->createStandardContextMenu();
+    // Its Undo and Redo are the line's, which has no history of its own here.
+    const QList<QAction*> actions = menu->actions();
+    constexpr int kOwnHistory = 3; // with the separator behind it
+    if (actions.size() > kOwnHistory && actions.at(kOwnHistory - 1)->isSeparator()) {
+        for (int i = 0; i < kOwnHistory; ++i)
+            delete actions.at(i);
+    }
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(place);
 }
 
 void StepForm::setRefWindowEnabled(bool enabled)

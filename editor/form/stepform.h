@@ -98,6 +98,8 @@ private:
     struct Builder;
 
     void connectWidgets();
+    // The context menu of a line.
+    void showMenu(QLineEdit* line, const QPoint& place);
     QComboBox* parameterBox(ParameterView view) const;
     const ConditionParameters& shownParameters() const;
     void setEditConditionDefault();

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -56,6 +57,7 @@ private slots:
     void openGroupsStayOpen();
     void answersAreNoActs();
     void reloadCanBeUndone();
+    void linesHaveNoHistoryOfTheirOwn();
 };
 
 void tst_History::typingIsOneAct_data()
@@ -266,6 +268,24 @@ void tst_History::answersAreNoActs()
     QTest::keyClick(scenario.tree(), Qt::Key_Delete);
     undo(scenario);
     QCOMPARE(scenario.rows(), "A|B|<>"_s);
+}
+
+void tst_History::linesHaveNoHistoryOfTheirOwn()
+{
+    OpenScenario scenario(scenarioText("a"_s));
+    scenario.select({0});
+    auto* x = scenario.widget<QLineEdit>("x");
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
+    QApplication::sendEvent(x, &event);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QPointer<QMenu> menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QStringList texts;
+    for (const QAction* action : menu->actions())
+        texts << action->text();
+    menu->close();
+    QVERIFY2(texts.filter("Undo"_s).isEmpty(), qPrintable(texts.join(QLatin1Char('|'))));
+    QVERIFY2(!texts.filter("Paste"_s).isEmpty(), qPrintable(texts.join(QLatin1Char('|'))));
 }
 
 void tst_History::reloadCanBeUndone()
