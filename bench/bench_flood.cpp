@@ -43,7 +43,7 @@ constexpr int kEverySize = 4096; // bytes; writes have every size up to here
 constexpr int kMostInPacket = 8; // messages
 constexpr int kAlivesAfter = 5;
 constexpr double kMostMemory = 1.1; // to what it was, besides what can be undone
-constexpr double kActMiB = 500.0 / (1 << 20); // a change of one step, to be undone
+constexpr double kActMiB = 640.0 / (1 << 20); // a change of one step, to be undone
 constexpr double kMostAliveMs = 1500; // for one a second
 #ifdef TUTORIAL_SANITIZED
 constexpr bool kJudgesMemory = false; // what is released is kept, to find late users
