@@ -220,6 +220,11 @@ QRect TargetItem::entryOf(const QWidget& menu, const QAction& action)
     if (const auto* open = qobject_cast<const QMenu*>(&menu))
         return open->actionGeometry(entry);
     const auto* bar = qobject_cast<const QMenuBar*>(&menu);
+    // What has no room stands in the menu of a button; where its rectangle is then
+    // depends on Qt's version.
+    const auto* more = menu.findChild<QToolButton*>(kMoreMenus, Qt::FindDirectChildrenOnly);
+    if (more && more->isVisible() && more->menu() && more->menu()->actions().contains(entry))
+        return QRect();
     return bar ? exposed(menu, bar->actionGeometry(entry)) : QRect();
 }
 

@@ -356,6 +356,18 @@ void tst_Targets::leadsThroughMenus()
         menu->close();
     mWindow->find->setVisible(false);
     QCOMPARE(resolve("Find").state, Target::Hidden);
+
+    // The same for a bar of menus: the button, what it opens, and the menu in that.
+    QMenuBar* bar = mWindow->menuBar();
+    for (int i = 0; i < 40; ++i)
+        bar->addMenu(QStringLiteral("Menu %1").arg(i))->addAction(QStringLiteral("Tool"));
+    named("Last", bar->addMenu(QStringLiteral("More"))->addAction(QStringLiteral("Last")));
+    QTRY_COMPARE(resolve("Last").state, Target::Led);
+    auto* more = qobject_cast<QToolButton*>(resolve("Last").widget);
+    QVERIFY(more);
+    more->menu()->popup(mWindow->mapToGlobal(QPoint(20, 60)));
+    QTRY_VERIFY(resolve("Last").widget == more->menu());
+    more->menu()->close();
 }
 
 void tst_Targets::pointsWhereAReaderBegins()
