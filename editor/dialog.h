@@ -175,6 +175,7 @@ private:
     void tellNotice();
 
     // History.
+    void markClean(); // when what was saved is what the tree holds
     void showStep(TutorialItem* item);
     void onStepChanged(TutorialEditor::TutorialItem* item, TutorialEditor::StepField field);
     void onFieldsShown(

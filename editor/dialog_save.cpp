@@ -82,7 +82,12 @@ void Dialog::getJsonText(int depth, QList<QModelIndex>& indexes, QString& out, b
 void Dialog::setLastJson(const QString& json)
 {
     mDocument->setSaved(json);
-    if (mDocument->isSaved(getCurrentJson()))
+    markClean();
+}
+
+void Dialog::markClean()
+{
+    if (isSaved())
         mHistory->stack()->setClean();
     else
         mHistory->stack()->resetClean();
@@ -128,7 +133,7 @@ bool Dialog::write(const QString& json)
     }
     if (report.result != ScenarioDocument::Saved)
         return false;
-    mHistory->stack()->setClean();
+    markClean();
     if (!report.problems.isEmpty())
         tellUnreadable(report);
     return true;

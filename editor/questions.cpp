@@ -111,11 +111,13 @@ QMessageBox::StandardButton TutorialEditor::askToReplace(
         buttons |= QMessageBox::Retry;
     setUp(&box, buttons);
     box.setInformativeText(
-        Dialog::tr("Overwrite keeps that file as %1. Reload gives up the changes here.")
+        Dialog::tr("Overwrite keeps that file as %1. "
+                   "Reload takes it in place of the steps here; Undo brings these back.")
             .arg(QDir::toNativeSeparators(document.keptName())));
     box.button(QMessageBox::Yes)->setText(Dialog::tr("&Overwrite"));
     if (differing)
         box.button(QMessageBox::Retry)->setText(Dialog::tr("&Reload"));
+    box.setDefaultButton(QMessageBox::Cancel);
     return answerOf(&box);
 }
 
@@ -170,6 +172,7 @@ QMessageBox::StandardButton TutorialEditor::askToOpen(const QString& path)
             .arg(QDir::toNativeSeparators(path)));
     setUp(&box, QMessageBox::Yes | QMessageBox::Cancel);
     box.button(QMessageBox::Yes)->setText(Manager::tr("&Open anyway"));
+    box.setDefaultButton(QMessageBox::Cancel);
     return answerOf(&box);
 }
 

@@ -208,7 +208,7 @@ Geändert: %2
     </message>
     <message>
         <source>Overwrite keeps that file as %1. Reload gives up the changes here.</source>
-        <translation>„Überschreiben“ hebt jene Datei als %1 auf. „Neu laden“ gibt die Änderungen hier auf.</translation>
+        <translation type="vanished">„Überschreiben“ hebt jene Datei als %1 auf. „Neu laden“ gibt die Änderungen hier auf.</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
@@ -305,6 +305,10 @@ Geändert: %2
     <message>
         <source>%1 is gone. Save writes it again.</source>
         <translation>%1 ist nicht mehr da. „Speichern“ schreibt sie neu.</translation>
+    </message>
+    <message>
+        <source>Overwrite keeps that file as %1. Reload takes it in place of the steps here; Undo brings these back.</source>
+        <translation>„Überschreiben“ hebt jene Datei als %1 auf. „Neu laden“ nimmt sie anstelle der Schritte hier; „Rückgängig“ holt diese zurück.</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,13 @@ void expectMore(QMessageBox* box, const QString& text)
     QVERIFY2(box->informativeText().contains(text), qPrintable(box->informativeText()));
 }
 
+// Return in a hurry replaces and opens nothing.
+void expectCancelByReturn(QMessageBox* box)
+{
+    expectPlain(box);
+    QCOMPARE(box->defaultButton(), box->button(QMessageBox::Cancel));
+}
+
 } // namespace
 
 // The scenario file and the author's answers, by keys and the mouse.
@@ -79,6 +86,7 @@ void tst_Saving::asksAboutAnotherFile()
     ModalBoxes boxes(
         {{QMessageBox::Yes, nullptr}, {QMessageBox::StandardButton(answer), [&](QMessageBox* box) {
                                            expectMore(box, scenario.path() + ".bak"_s);
+                                           expectCancelByReturn(box);
                                        }}});
     clickSave(scenario);
     QVERIFY(boxes.isDone());
@@ -185,7 +193,8 @@ void tst_Saving::tellsThatAnotherToolHasItOpen()
     }
     {
         const OpenMark mark(other);
-        ModalBoxes boxes({{QMessageBox::Cancel, expectPlain}, {QMessageBox::Yes, nullptr}});
+        ModalBoxes boxes(
+            {{QMessageBox::Cancel, expectCancelByReturn}, {QMessageBox::Yes, nullptr}});
         Manager::setContents(other);
         QCOMPARE(scenario.dialog()->document()->path(), scenario.path());
         QVERIFY(OpenMark(scenario.path()).hasOthers());
@@ -211,6 +220,10 @@ void tst_Saving::nothingIsTakenBackBelowAQuestion()
     QVERIFY(boxes.isDone());
     QCOMPARE(scenario.fileText(), scenarioText("a c"_s));
     QVERIFY(scenario.dialog()->isSaved() && !scenario.dialog()->isWindowModified());
+    // The file holds something else than the tree then.
+    QVERIFY(Manager::save("[]"_s) && scenario.dialog()->isWindowModified());
+    Manager::save(scenario.dialog()->getCurrentJson());
+    QVERIFY(!scenario.dialog()->isWindowModified());
     // It is an act still.
     scenario.dialog()->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(scenario.dialog()));
