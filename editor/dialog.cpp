@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QVBoxLayout>
 
@@ -27,6 +28,7 @@ namespace {
 
 constexpr QSize kIconSize(24, 24);
 constexpr int kCompareDelayMs = 300;
+const QString kGeometry = QStringLiteral("TutorialEditor.geometry");
 
 template <typename Widget>
 Widget* named(Widget* widget, const char* name, const QString& toolTip)
@@ -60,9 +62,7 @@ Dialog::Dialog(QWidget* parent)
 {
     connect(this, &Dialog::changed, mDocument, &ScenarioDocument::noteChange);
     setAttribute(Qt::WA_DeleteOnClose);
-    setGeometry(QSettings()
-                    .value(QStringLiteral("TutorialEditor.geometry"), QRect(200, 200, 200, 300))
-                    .toRect());
+    setGeometry(QSettings().value(kGeometry, QRect(200, 200, 200, 300)).toRect());
     mForm = new StepForm(iconsOf(*mModel));
     mFormArea = new FormArea(mForm);
     mAddField = createButton(
@@ -98,6 +98,21 @@ Dialog::Dialog(QWidget* parent)
         previous = widget;
     }
     linkToEdit(nullptr);
+}
+
+void Dialog::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous() && !mWasShown && !QSettings().contains(kGeometry))
+        growToRead();
+    mWasShown = true;
+    QDialog::showEvent(event);
+}
+
+void Dialog::growToRead()
+{
+    const QPoint end = screen()->availableGeometry().bottomRight();
+    const QSize room = QRect(geometry().topLeft(), end).size();
+    resize(size().expandedTo(layout()->totalSizeHint().boundedTo(room)));
 }
 
 Dialog::~Dialog()

@@ -130,6 +130,7 @@ private slots:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -167,6 +168,8 @@ private:
     void checkTreeBox() const;
     // Points the overlay at the step in the form; x, y: kNoCoordinate for none.
     void pointIndicator(int x, int y);
+    // Makes room for the tree and the form, from the top left corner.
+    void growToRead();
     // Tells the host the target of the step in the form.
     void tellTarget(const QString& target);
 
@@ -211,6 +214,7 @@ private:
     StepFields mFields; // what the form held after the last load or rebuild
     ScenarioDocument* const mDocument;
     StepHistory* mHistory = nullptr;
+    bool mWasShown = false;
     bool mTargetTold = false; // of the step before, which had one
     Lookups* mComments = nullptr; // those of the form
     Lookups* mHints = nullptr;

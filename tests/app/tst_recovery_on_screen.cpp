@@ -101,8 +101,7 @@ int tst_RecoveryOnScreen::reportedX() const
 
 void tst_RecoveryOnScreen::clickSave() const
 {
-    // 200 x 300 pixels before an author has closed it at another size.
-    click(windowTitled(QStringLiteral("^garden")), 160, 275);
+    click(windowTitled(QStringLiteral("^garden")), -40, -25);
 }
 
 int tst_RecoveryOnScreen::savedX() const

@@ -119,8 +119,7 @@ int tst_SavingOnScreen::reportedX() const
 
 void tst_SavingOnScreen::clickSave()
 {
-    // 200 x 300 pixels before an author has closed it at another size.
-    click(windowTitled(kTool), 160, 275);
+    click(windowTitled(kTool), -40, -25);
 }
 
 void tst_SavingOnScreen::answer(const QString& title, const QString& key)

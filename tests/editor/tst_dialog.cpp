@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QSettings>
 
 using namespace TutorialEditor;
@@ -49,6 +51,7 @@ private slots:
     void formLetsGoOfItems();
     void keepsTheFormerFile();
     void escapeAsks();
+    void canBeReadWhenFirstOpened();
 };
 
 void tst_Dialog::cleanup()
@@ -190,6 +193,24 @@ void tst_Dialog::escapeAsks()
     QTRY_VERIFY(!dialog);
     QCOMPARE(scenario.fileText(), scenarioText("a"_s));
     QVERIFY(Manager::mInstance->checkSave(true));
+}
+
+// At first it is as large as its fields want; then as the author left it.
+void tst_Dialog::canBeReadWhenFirstOpened()
+{
+    const QRect small(30, 40, 210, 310);
+    for (const QPoint& corner : {QPoint(200, 200), small.topLeft()}) {
+        OpenScenario scenario(scenarioText("a"_s));
+        const auto* area = scenario.dialog()->findChild<QScrollArea*>();
+        QCOMPARE(scenario.dialog()->geometry().topLeft(), corner);
+        const bool isFirst = corner != small.topLeft();
+        const bool isReadable = area->width() >= area->widget()->sizeHint().width()
+            || scenario.dialog()->geometry().right() == area->screen()->geometry().right();
+        QCOMPARE(isReadable, isFirst);
+        QCOMPARE(scenario.dialog()->size() == small.size(), !isFirst);
+        scenario.dialog()->setGeometry(small);
+        scenario.dialog()->close();
+    }
 }
 
 QTEST_MAIN(tst_Dialog)

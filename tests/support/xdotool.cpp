@@ -44,6 +44,12 @@ bool waitForWindow(const QString& pattern, bool shown)
 
 void click(const QString& window, int x, int y)
 {
-    xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), window, QString::number(x),
-        QString::number(y), QStringLiteral("click"), QStringLiteral("1")});
+    const QString size = xdotool({QStringLiteral("getwindowgeometry"), window})
+                             .section(QLatin1String("Geometry: "), 1);
+    const auto place = [&size](int pixels, int side) {
+        const int from = pixels < 0 ? size.section(QLatin1Char('x'), side, side).toInt() : 0;
+        return QString::number(from + pixels);
+    };
+    xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), window, place(x, 0),
+        place(y, 1), QStringLiteral("click"), QStringLiteral("1")});
 }

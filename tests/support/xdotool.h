@@ -15,7 +15,8 @@ void press(const QString& keys);
 // Presses the keys of a text.
 void type(const QString& text);
 
-// Clicks into a window, in pixels from its corner.
+// Clicks into a window, in pixels from its top left corner; negative ones count
+// from the bottom right.
 void click(const QString& window, int x, int y);
 
 // The first window that is shown and whose title matches; empty for none.
