@@ -85,9 +85,14 @@ void Dialog::markModified(bool isModified)
     QString title = windowTitle();
     if (title.endsWith(mark))
         title.chop(mark.size());
-    setWindowModified(false);
-    setWindowTitle(isModified ? title + mark : title);
-    setWindowModified(isModified);
+    if (isModified)
+        title += mark;
+    // Each change of these goes to the window manager.
+    if (title != windowTitle() || isModified != isWindowModified()) {
+        setWindowModified(false);
+        setWindowTitle(title);
+        setWindowModified(isModified);
+    }
     if (!mNotice->isHidden())
         tellNotice();
 }
