@@ -141,10 +141,16 @@ void TutorialIndicator::showTooltip()
 {
     if (!mTooltip)
         return;
+    updateMask();
     mTooltip->show();
     // The host may have opened a window or a menu above it since.
     mTooltip->raise();
     raiseButtons();
+}
+
+void TutorialIndicator::updateMask()
+{
+    mTooltip->setMasked(!mCompositor.isRunning());
 }
 
 void TutorialIndicator::hideTooltip()
@@ -157,6 +163,7 @@ void TutorialIndicator::createTooltip()
     if (mTooltip)
         return;
     mTooltip = new TutorialTooltip(this);
+    updateMask();
     // A balloon that is made again brings buttons of its own.
     connect(mNextButton, &QAbstractButton::clicked, this, &TutorialIndicator::nextClicked);
     connect(mYesButton, &QAbstractButton::clicked, this, &TutorialIndicator::yesClicked);
@@ -257,6 +264,7 @@ void TutorialIndicator::timerEvent(QTimerEvent*)
 
     if (!mTooltip)
         return;
+    updateMask();
     if (mFullRepaint)
         mTooltip->repaint(rect());
     else

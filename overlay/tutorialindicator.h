@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "overlay/compositor.h"
 #include "overlay/motion.h"
 #include "tutorial/vocabulary/vocabulary.h"
 
@@ -49,6 +50,8 @@ public:
     void showTooltip();
     void hideTooltip();
     void createTooltip();
+    // Cuts the balloon out along its parts where nothing runs that mixes windows.
+    void updateMask();
 
     // What the balloon paints.
     //
@@ -112,6 +115,7 @@ private:
     QPushButton* mNoButton = nullptr;
     QPointer<OverlayOwner> mOwner;
     QElapsedTimer mElapsed;
+    Compositor mCompositor;
     BalloonMotion mMotion;
     QPoint mButtonShift;
     bool mFullRepaint = false;

@@ -6,12 +6,14 @@
 #include "overlay/tutorialindicator.h"
 
 #include <QAccessible>
+#include <QBitmap>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QPainter>
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -118,6 +120,32 @@ int TutorialTooltip::fitText(int room)
     return height;
 }
 
+void TutorialTooltip::setMasked(bool masked)
+{
+    if (!masked) {
+        if (std::exchange(mMaskedBounce, std::nullopt))
+            clearMask();
+        return;
+    }
+    // The arrow goes on between the mask and the painting.
+    mMaskedBounce = bounceOffset(mIndicator->GetElapsed());
+    const QRect area = parts().arrow | parts().icon;
+    QPixmap shapes(area.size().expandedTo({1, 1}));
+    shapes.fill(Qt::transparent);
+    QPainter painter(&shapes);
+    painter.translate(-area.topLeft());
+    if (mIndicator->isArrowVisible())
+        drawArrow(&painter);
+    drawIcon(&painter);
+    painter.end();
+    QRegion region = QRegion(shapes.mask()).translated(area.topLeft()) + parts().text;
+    // An empty mask is none at all.
+    if (region.isEmpty())
+        region = QRect(-1, -1, 1, 1);
+    if (region != mask())
+        setMask(region);
+}
+
 QRegion TutorialTooltip::animatedRegion(const QSize& arrow, bool flippedHorizontally)
 {
     const int left = flippedHorizontally ? kMirroredArrowLeft : 0;
@@ -200,7 +228,7 @@ void TutorialTooltip::drawArrow(QPainter* painter) const
     const QPixmap& arrow = mIndicator->arrow();
     const bool up = mIndicator->motion().flippedVertically;
     const bool left = mIndicator->motion().flippedHorizontally;
-    const float bounce = bounceOffset(mIndicator->GetElapsed());
+    const float bounce = mMaskedBounce.value_or(bounceOffset(mIndicator->GetElapsed()));
     const int offset = static_cast<int>(up ? bounce - kUpwardsShift : bounce);
 
     painter->save();

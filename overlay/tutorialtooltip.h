@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 class HintText;
 class TutorialIndicator;
 
@@ -39,6 +41,10 @@ public:
     // balloon and the room, in pixels. Returns the height in pixels.
     int fitText(int room);
 
+    // Where nothing mixes the balloon with what is beneath it, cuts it out along
+    // the arrow, the icon and the text as they are to be painted now.
+    void setMasked(bool masked);
+
     // The part of the balloon that the arrow and the icon change, in its own
     // pixels.
     static QRegion animatedRegion(const QSize& arrow, bool flippedHorizontally);
@@ -59,4 +65,6 @@ private:
 
     QPointer<TutorialIndicator> mIndicator;
     HintText* mText;
+    // The way down that the arrow has in the mask, in pixels.
+    std::optional<float> mMaskedBounce;
 };

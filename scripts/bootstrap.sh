@@ -17,7 +17,7 @@ packages=(
   # Qt's own texts in other languages
   qttranslations5-l10n qt6-translations-l10n
   # the demo's pointer and keyboard: X11 and its test extension
-  libx11-dev libxtst-dev
+  libx11-dev libxcb1-dev libxtst-dev
   # a display without a screen: server, window manager, compositor, tools
   xvfb openbox picom xdotool x11-utils xrestop xauth
   # the host that is no Qt program

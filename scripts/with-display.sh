@@ -5,6 +5,7 @@
 #
 #   scripts/with-display.sh COMMAND [ARG ...]
 #
+# TUTORIAL_COMPOSITOR: "none" for a screen without one.
 # TUTORIAL_SCREEN: size of the screen, WIDTHxHEIGHT (1280x800).
 set -u
 
@@ -59,9 +60,11 @@ fi
 openbox >"$folder/openbox.log" 2>&1 &
 pids+=($!)
 wait_for openbox managed
-picom --backend xrender --no-fading-openclose --config /dev/null >"$folder/picom.log" 2>&1 &
-picom=$!
-pids+=("$picom")
-wait_for picom composited
+if [ "${TUTORIAL_COMPOSITOR:-}" != none ]; then
+  picom --backend xrender --no-fading-openclose --config /dev/null >"$folder/picom.log" 2>&1 &
+  picom=$!
+  pids+=("$picom")
+  wait_for picom composited
+fi
 
 "$@"

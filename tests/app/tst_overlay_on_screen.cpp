@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/support/overlaywindows.h"
 #include "tests/support/testhost.h"
 #include "tests/support/xdotool.h"
 #include "tutorial/vocabulary/vocabulary.h"
@@ -71,6 +72,8 @@ private slots:
     void tipStandsOnItsPointOnEverySide();
     void iconChangesOnBothSides_data();
     void iconChangesOnBothSides();
+    void hostIsSeenBesideTheParts_data();
+    void hostIsSeenBesideTheParts();
     void typingIsNotInterrupted();
     void overlayStaysAboveWindowsThatOpenLater();
     void nothingStaysOnTheScreen_data();
@@ -201,6 +204,47 @@ void tst_OverlayOnScreen::iconChangesOnBothSides()
         const QSize expected = icon == Tutorial::IconKindCount ? QSize(0, 0) : square.size();
         QTRY_COMPARE_WITH_TIMEOUT(painted(screenshot(), square).size(), expected, kDeadlineMs);
     }
+}
+
+void tst_OverlayOnScreen::hostIsSeenBesideTheParts_data()
+{
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<int>("buttons");
+    const QString hint = QStringLiteral("hint");
+    QTest::newRow("next") << hint << int(Tutorial::ShowNextFlag) << 1;
+    QTest::newRow("yes and no") << hint << int(Tutorial::ShowYesNoFlag) << 2;
+    QTest::newRow("another hint") << hint + QStringLiteral(" of its own") << 0 << 0;
+}
+
+// Of the balloon nothing covers the host but arrow, icon, text and buttons.
+void tst_OverlayOnScreen::hostIsSeenBesideTheParts()
+{
+    QFETCH(QString, hint);
+    QFETCH(int, flags);
+    QFETCH(int, buttons);
+    const QPoint corner(300, 150);
+    mHost->send({update(hint, flags, 0), updateXy(corner)});
+    QTRY_COMPARE_WITH_TIMEOUT(overlayWindows(kButtonSize).size(), buttons, kDeadlineMs);
+    // The glide may stop a few pixels short.
+    const auto away = [&] {
+        return (overlayWindows(kBalloonSize).value(0).topLeft() - corner).manhattanLength();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(away() < 8, kDeadlineMs);
+    const auto covered = [&](const QRect& part) {
+        return painted(screenshot(), part.translated(corner).adjusted(8, 8, -8, -8));
+    };
+    const auto isBare = [&](const QRect& part) { return covered(part).isEmpty(); };
+    // While it bounces, and for as long as a compositor is looked for.
+    QElapsedTimer bounce;
+    for (bounce.start(); bounce.elapsed() < 2200;) {
+        QTRY_VERIFY_WITH_TIMEOUT(
+            isBare({340, 0, 300, 480}) && isBare({0, 240, 640, 240}) && isBare({140, 0, 500, 56}),
+            kDeadlineMs);
+    }
+    QVERIFY(!isBare({0, 0, 76, 240}) && !isBare({76, 0, 56, 56}) && !isBare({76, 56, 256, 30}));
+    for (const QRect& button : overlayWindows(kButtonSize))
+        QCOMPARE(painted(screenshot(), button), button);
 }
 
 void tst_OverlayOnScreen::typingIsNotInterrupted()
