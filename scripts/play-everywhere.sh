@@ -9,7 +9,7 @@
 #
 # About half an hour. A line for each run; fails when one does.
 set -u
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit
 bin=${1:-build/release}/bin
 export TUTORIAL_SCREEN=${TUTORIAL_SCREEN:-2600x1700}
 

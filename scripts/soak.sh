@@ -52,15 +52,15 @@ watched() {
   "$results/tutorial-demo" --autoplay all-conditions --language en --minutes "$minutes" \
     >"$log" 2>&1 &
   local demo=$! pause=$((minutes < 10 ? minutes : 10)) tutorial
-  while kill -0 $demo 2>/dev/null; do
+  while kill -0 "$demo" 2>/dev/null; do
     sleep "$pause"
-    tutorial=$(cat /proc/$demo/task/*/children 2>/dev/null)
+    tutorial=$(cat /proc/"$demo"/task/*/children 2>/dev/null)
     if [ -n "$tutorial" ]; then
       # Either may end while it is looked at.
-      { sample tutorial-demo $demo; sample tutorial ${tutorial% }; } 2>/dev/null
+      { sample tutorial-demo "$demo"; sample tutorial "${tutorial% }"; } 2>/dev/null
     fi
   done
-  wait $demo
+  wait "$demo"
 }
 export -f sample watched
 

@@ -71,6 +71,8 @@ bool hasTextOfItsOwn(const FormCell& cell)
 
 // Makes the widgets of the table's rows.
 struct StepForm::Builder {
+    Q_DISABLE_COPY(Builder)
+
     explicit Builder(StepForm* parent) : form(*parent), layout(new QFormLayout(parent))
     {
         layout->setContentsMargins(0, 0, 0, 0);

@@ -32,7 +32,7 @@ bool compare(std::optional<int> left, const QString& comparison, int right)
 bool isInteger(const QString& text)
 {
     bool ok = false;
-    text.toInt(&ok);
+    (void)text.toInt(&ok);
     return ok;
 }
 
