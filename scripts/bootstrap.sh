@@ -8,6 +8,8 @@ set -eu
 packages=(
   # compiler and build system
   g++ cmake ninja-build clang-format
+  # what looks for faults without running anything
+  cppcheck shellcheck
   # the fuzzers' compiler, its run-time libraries, and names in their reports
   clang libclang-rt-dev llvm
   # Qt 5: libraries, headers, moc and rcc, and the translation tools
@@ -34,7 +36,7 @@ $0: this system does not install Debian packages. Please install, by the names
 that your system has for them: a C++17 compiler, clang 14 or newer with libFuzzer
 and the sanitizers, CMake 3.24 or newer, Ninja, Qt 5.15 (base with private tools,
 Linguist tools), Qt 6.4 (the same), the X11 and XTest development files, Xvfb, openbox, picom,
-xdotool, xprop, xwininfo and xrestop, Python 3 with Tk, and the DejaVu fonts. In Debian they are:
+xdotool, xprop, xwininfo and xrestop, cppcheck, shellcheck, Python 3 with Tk, and the DejaVu fonts. In Debian they are:
   ${packages[*]}
 Then run scripts/test.sh or scripts/demo.sh with TUTORIAL_SKIP_BOOTSTRAP=1.
 EOF
